@@ -1,0 +1,39 @@
+# A room is a folder of src/ with a library of its own. It sees only the rooms it names in ROOMS;
+# LIBRARIES are the outside libraries that it owns.
+
+add_library(nurva_options INTERFACE)
+target_include_directories(nurva_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+target_compile_options(nurva_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wno-missing-field-initializers
+    # g++ 12 sees uninitialized strings in every variant that is moved; the sanitizers and clang watch instead.
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>
+    $<$<BOOL:${NURVA_WERROR}>:-Werror>)
+if(NURVA_SANITIZE)
+    target_compile_options(nurva_options INTERFACE
+        -fsanitize=${NURVA_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    target_link_options(nurva_options INTERFACE -fsanitize=${NURVA_SANITIZE})
+endif()
+
+function(nurva_room name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;ROOMS;LIBRARIES" ${ARGN})
+    list(TRANSFORM ARG_ROOMS PREPEND nurva_)
+    add_library(nurva_${name} STATIC ${ARG_SOURCES})
+    target_link_libraries(nurva_${name} PUBLIC nurva_options ${ARG_ROOMS} PRIVATE ${ARG_LIBRARIES})
+endfunction()
+
+# The tests of one room, as one program. The room is linked whole with nothing but the rooms it names,
+# so a room that reaches for one above it does not link.
+function(nurva_test room)
+    cmake_parse_arguments(ARG "" "" "SOURCES;ROOMS;LIBRARIES" ${ARGN})
+    list(TRANSFORM ARG_ROOMS PREPEND nurva_)
+    add_executable(${room}_test ${ARG_SOURCES})
+    target_include_directories(${room}_test PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    target_compile_definitions(${room}_test PRIVATE
+        NURVA_TESTS_FOLDER="${PROJECT_SOURCE_DIR}/tests"
+        NURVA_RESOURCES_FOLDER="${PROJECT_SOURCE_DIR}/resources")
+    target_link_libraries(${room}_test PRIVATE
+        "$<LINK_LIBRARY:WHOLE_ARCHIVE,nurva_${room}>" ${ARG_ROOMS} ${ARG_LIBRARIES}
+        GTest::gmock GTest::gtest_main)
+    add_test(NAME ${room} COMMAND ${room}_test)
+    set_tests_properties(${room} PROPERTIES TIMEOUT 300)
+endfunction()

@@ -1,0 +1,52 @@
+#include "platform/foundation/DefaultFileManager.hpp"
+
+#include "platform/foundation/ReadFile.hpp"
+
+#include <string>
+#include <system_error>
+
+namespace foundation {
+namespace {
+
+std::optional<std::filesystem::path> absolutePath(const std::optional<std::string>& text) {
+    if (!text || text->front() != '/')
+        return std::nullopt;
+    return std::filesystem::path(*text);
+}
+
+std::optional<std::filesystem::path> dataFolder(const EnvironmentVariables& variables) {
+    if (auto folder = absolutePath(variables.value("XDG_DATA_HOME")))
+        return folder;
+    if (auto home = absolutePath(variables.value("HOME")))
+        return *home / ".local" / "share";
+    return std::nullopt;
+}
+
+bool namesFolder(std::string_view identifier) {
+    return !identifier.empty() && identifier != "." && identifier != ".." &&
+           identifier.find_first_of(std::string_view("/\0", 2)) == std::string_view::npos;
+}
+
+}  // namespace
+
+DefaultFileManager::DefaultFileManager(const EnvironmentVariables& variables) {
+    if (const auto data = dataFolder(variables))
+        containers_ = *data / "group-containers";
+}
+
+std::optional<std::filesystem::path> DefaultFileManager::containerURL(
+    std::string_view groupIdentifier) const {
+    if (!containers_ || !namesFolder(groupIdentifier))
+        return std::nullopt;
+    std::filesystem::path container = *containers_ / groupIdentifier;
+    std::error_code ignored;
+    if (!std::filesystem::is_directory(container, ignored))
+        return std::nullopt;
+    return container;
+}
+
+std::string DefaultFileManager::contents(const std::filesystem::path& path) const {
+    return readFile(path);
+}
+
+}  // namespace foundation

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/foundation/EnvironmentVariables.hpp"
+#include "platform/foundation/FileManager.hpp"
+
+#include <filesystem>
+
+namespace foundation {
+
+/// The real file system. A group's container is the folder named after it in the user's
+/// `group-containers`; whoever installs or starts a host application creates it.
+class DefaultFileManager : public FileManager {
+  public:
+    explicit DefaultFileManager(
+        const EnvironmentVariables& variables = EnvironmentVariables::ofProcess());
+
+    std::optional<std::filesystem::path> containerURL(
+        std::string_view groupIdentifier) const override;
+    std::string contents(const std::filesystem::path& path) const override;
+
+  private:
+    std::optional<std::filesystem::path> containers_;
+};
+
+}  // namespace foundation

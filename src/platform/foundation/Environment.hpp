@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/foundation/Bundle.hpp"
+#include "platform/foundation/Clock.hpp"
+#include "platform/foundation/FileManager.hpp"
+#include "platform/foundation/Locale.hpp"
+
+namespace foundation {
+
+/// What a program sees of the outside world, passed to whatever depends on it. The clock and the
+/// file manager must outlive it.
+struct Environment {
+    const Clock& clock;
+    const FileManager& fileManager;
+    Bundle mainBundle;
+    Locale locale;
+};
+
+/// The world of the running process, read from its variables at the moment of the call.
+Environment processEnvironment();
+
+}  // namespace foundation

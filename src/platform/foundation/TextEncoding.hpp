@@ -1,0 +1,24 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// Bytes of files as UTF-8 text. Any thread; never fail.
+namespace foundation {
+
+bool isUTF8(std::string_view bytes);
+
+/// Adds a character to a UTF-8 text; a number that is no character becomes U+FFFD.
+void appendUTF8(std::string& text, char32_t character);
+
+enum class ByteOrder { bigEndian, littleEndian };
+
+/// Nothing when the bytes are no whole UTF-16 text.
+std::optional<std::string> utf8FromUTF16(std::string_view bytes, ByteOrder order);
+
+/// A text file's bytes: UTF-16 or UTF-32 when a byte-order mark says so, else UTF-8 with or without
+/// one. The mark is left out. Nothing when the bytes are not valid in that encoding.
+std::optional<std::string> utf8FromTextFile(std::string_view bytes);
+
+}  // namespace foundation

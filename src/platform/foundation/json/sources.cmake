@@ -1,0 +1,11 @@
+set(FOUNDATION_JSON_SOURCES
+    json/Decoder.cpp
+    json/DecodingError.cpp
+    json/Encoder.cpp
+    json/EncodingError.cpp
+    json/JSONDecoder.cpp
+    json/JSONDocument.cpp
+    json/JSONNumber.cpp
+    json/JSONReader.cpp
+    json/JSONScanner.cpp
+    json/JSONString.cpp)
