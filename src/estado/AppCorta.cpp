@@ -1,0 +1,11 @@
+#include "estado/AppCorta.hpp"
+
+#include "platform/foundation/json/RecordEquality.hpp"
+
+namespace nurva {
+
+bool operator==(const AppCorta& a, const AppCorta& b) {
+    return foundation::recordsEqual(a, b);
+}
+
+}  // namespace nurva
