@@ -1,0 +1,7 @@
+#pragma once
+
+namespace views {
+
+enum class Edge { top, horizontal, vertical };
+
+}  // namespace views

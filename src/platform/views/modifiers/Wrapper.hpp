@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/views/view/View.hpp"
+
+namespace views {
+
+/// A view around another one that leaves its layout as it is. Modifiers start from here and replace
+/// what they change.
+struct Wrapper {
+    View inner;
+
+    Size sizeThatFits(const Proposal& proposal, LayoutContext& context) const {
+        return inner.sizeThatFits(proposal, context);
+    }
+    double firstBaseline(const Proposal& proposal, LayoutContext& context) const {
+        return inner.firstBaseline(proposal, context);
+    }
+};
+
+}  // namespace views

@@ -1,0 +1,75 @@
+#include "platform/views/geometry/Color.hpp"
+#include "platform/views/scene/Recorder.hpp"
+#include "platform/views/shapes/Shape.hpp"
+#include "platform/views/view/View.hpp"
+
+#include <algorithm>
+
+namespace views {
+
+namespace {
+
+/// Where the shape stands in what it was given: a circle is as large as it can be, in the middle.
+Rect frameOf(const Shape& shape, const Rect& given) {
+    if (!std::holds_alternative<Circle>(shape))
+        return given;
+    const double side = std::min(given.width, given.height);
+    return {given.x + (given.width - side) / 2, given.y + (given.height - side) / 2, side, side};
+}
+
+/// The shape with its edge moved inwards, and its corners with it.
+Shape inset(Shape shape, double distance) {
+    if (auto* rounded = std::get_if<RoundedRectangle>(&shape))
+        rounded->cornerRadius = std::max(rounded->cornerRadius - distance, 0.0);
+    return shape;
+}
+
+struct FilledShape {
+    Shape shape;
+    Color color;
+
+    Size sizeThatFits(const Proposal& proposal, LayoutContext&) const {
+        return sizeTaking(proposal);
+    }
+    void draw(const Placement& place, LayoutContext&, Recorder& recorder) const {
+        recorder.fill(FillShape{shape, frameOf(shape, place.frame), color});
+    }
+};
+
+struct BorderedShape {
+    Shape shape;
+    Color color;
+    double lineWidth;
+
+    Size sizeThatFits(const Proposal& proposal, LayoutContext&) const {
+        return sizeTaking(proposal);
+    }
+    void draw(const Placement& place, LayoutContext&, Recorder& recorder) const {
+        const double half = lineWidth / 2;
+        recorder.stroke(StrokeShape{inset(shape, half), frameOf(shape, place.frame).inset(half),
+                                    lineWidth, color});
+    }
+};
+
+}  // namespace
+
+template <class Self>
+View ShapeModifiers<Self>::fill(const Color& color) const {
+    return FilledShape{static_cast<const Self&>(*this), color};
+}
+
+template <class Self>
+View ShapeModifiers<Self>::strokeBorder(const Color& color, double lineWidth) const {
+    return BorderedShape{static_cast<const Self&>(*this), color, lineWidth};
+}
+
+template struct ShapeModifiers<Rectangle>;
+template struct ShapeModifiers<Circle>;
+template struct ShapeModifiers<Capsule>;
+template struct ShapeModifiers<RoundedRectangle>;
+
+View Color::body() const {
+    return Rectangle{}.fill(*this);
+}
+
+}  // namespace views

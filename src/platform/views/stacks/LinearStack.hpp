@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/views/layout/StackLayout.hpp"
+#include "platform/views/view/View.hpp"
+
+#include <vector>
+
+namespace views {
+
+enum class Axis { horizontal, vertical };
+
+/// What an HStack and a VStack have in common: children in a row along an axis.
+class LinearStack {
+  public:
+    /// `alignment` counts across the axis only.
+    LinearStack(Axis axis, Alignment alignment, double spacing, std::vector<View> children);
+
+    Size sizeThatFits(const Proposal& proposal, LayoutContext& context) const;
+    void draw(const Placement& place, LayoutContext& context, Recorder& recorder) const;
+    double firstBaseline(const Proposal& proposal, LayoutContext& context) const;
+
+  private:
+    const StackLayout& laidOut(const Proposal& proposal, LayoutContext& context) const;
+    StackLayout layOut(const Proposal& proposal, LayoutContext& context) const;
+    /// The size of a child for an offer.
+    Size measured(const View& child, const Proposal& offer, LayoutContext& context) const;
+    std::vector<Flexibility> flexibilities(const Proposal& proposal, LayoutContext& context) const;
+    /// Puts the children behind each other along the axis; answers how much they take.
+    double spread(std::vector<Placement>& children) const;
+    /// Puts the children where the alignment wants them across the axis; answers how much they
+    /// take.
+    double align(std::vector<Placement>& children) const;
+    double alignOnBaseline(std::vector<Placement>& children, LayoutContext& context) const;
+
+    Axis axis_;
+    Alignment alignment_;
+    double spacing_;
+    std::vector<View> children_;
+};
+
+}  // namespace views
