@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/views/geometry/Geometry.hpp"
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+namespace canvas {
+
+struct PixelSize {
+    int width = 0;
+    int height = 0;
+    bool operator==(const PixelSize&) const = default;
+
+    std::size_t count() const {
+        return static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+    }
+};
+
+/// Pixels of a card at a scale, each side rounded. Throws std::invalid_argument for a size or scale
+/// that is not a positive number or comes to more pixels than a picture may have.
+PixelSize pixelSize(const views::Size& size, double scale);
+
+/// A look at a picture: premultiplied ARGB, one number in machine order per pixel, rows from the
+/// top without gaps. Does not own the pixels.
+struct Pixels {
+    PixelSize size;
+    std::span<const std::uint32_t> argb;
+
+    std::span<const std::uint32_t> row(int y) const {
+        const auto width = static_cast<std::size_t>(size.width);
+        return argb.subspan(static_cast<std::size_t>(y) * width, width);
+    }
+};
+
+}  // namespace canvas
