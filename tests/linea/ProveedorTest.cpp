@@ -21,7 +21,7 @@ struct ProveedorTest : testing::Test {
     void ponerRelojEn(std::initializer_list<Date> instantes) {
         reloj = std::make_unique<support::ManualClock>(instantes);
         entorno = std::make_unique<foundation::Environment>(foundation::Environment{
-            *reloj, mundo.files, mundo.environment.mainBundle, {}});
+            *reloj, mundo.files, mundo.notifications, mundo.environment.mainBundle, {}});
     }
     widgets::Timeline<Entrada> linea() {
         std::vector<widgets::Timeline<Entrada>> respuestas;

@@ -7,17 +7,20 @@
 #include <cerrno>
 #include <cstddef>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace support {
 
-/// Containers and files held in memory. Counts the reads and notes which groups were asked for.
-/// A path without a file throws ENOENT. Only for one thread, but for the count.
+/// Containers and files held in memory. Counts the reads and writes and notes which groups were
+/// asked for. A path without a file throws ENOENT. Only for one thread, but for the counts.
 class MemoryFileManager : public foundation::FileManager {
   public:
     std::map<std::string, std::filesystem::path, std::less<>> containers;
-    std::map<std::filesystem::path, std::string> files;
+    mutable std::map<std::filesystem::path, std::string> files;
+    /// What every write fails with.
+    std::optional<int> writeError;
 
     std::optional<std::filesystem::path> containerURL(
         std::string_view groupIdentifier) const override {
@@ -36,11 +39,20 @@ class MemoryFileManager : public foundation::FileManager {
         return found->second;
     }
 
+    void writeAtomically(std::string_view bytes, const std::filesystem::path& path) const override {
+        ++writes_;
+        if (writeError)
+            throw foundation::FileError(*writeError, path);
+        files[path] = bytes;
+    }
+
     std::size_t reads() const { return reads_; }
+    std::size_t writes() const { return writes_; }
     const std::vector<std::string>& askedGroups() const { return askedGroups_; }
 
   private:
     mutable std::atomic<std::size_t> reads_ = 0;
+    mutable std::atomic<std::size_t> writes_ = 0;
     mutable std::vector<std::string> askedGroups_;
 };
 

@@ -3,6 +3,7 @@
 #include "platform/foundation/Environment.hpp"
 #include "support/ManualClock.hpp"
 #include "support/MemoryFileManager.hpp"
+#include "support/RecordedNotifications.hpp"
 
 #include <string>
 #include <utility>
@@ -15,7 +16,8 @@ inline constexpr foundation::Date noon{804686400};
 /// A world of its own: a clock and containers that the test sets, and the texts of a bundle.
 struct World {
     explicit World(foundation::Bundle mainBundle = spanishBundle(), std::string locale = "es_ES")
-        : environment{clock, files, std::move(mainBundle), foundation::Locale{std::move(locale)}} {}
+        : environment{clock, files, notifications, std::move(mainBundle),
+                      foundation::Locale{std::move(locale)}} {}
 
     World(const World&) = delete;
     World& operator=(const World&) = delete;
@@ -29,6 +31,7 @@ struct World {
 
     ManualClock clock{noon};
     MemoryFileManager files;
+    RecordedNotifications notifications;
     foundation::Environment environment;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -10,6 +11,8 @@ namespace canvas {
 /// The first value names the kind of key, which fixes the types that follow; a text comes last.
 class Key {
   public:
+    Key() { bytes_.reserve(usualLength); }
+
     template <class Number>
     requires std::is_arithmetic_v<Number> || std::is_enum_v<Number> Key& operator<<(Number number) {
         bytes_.append(reinterpret_cast<const char*>(&number), sizeof number);
@@ -22,6 +25,7 @@ class Key {
     std::string_view bytes() const { return bytes_; }
 
   private:
+    static constexpr std::size_t usualLength = 96;
     std::string bytes_;
 };
 

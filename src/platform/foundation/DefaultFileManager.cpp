@@ -1,7 +1,12 @@
 #include "platform/foundation/DefaultFileManager.hpp"
 
+#include "platform/foundation/FileError.hpp"
 #include "platform/foundation/ReadFile.hpp"
+#include "platform/foundation/WriteFile.hpp"
 
+#include <sys/stat.h>
+
+#include <cerrno>
 #include <string>
 #include <system_error>
 
@@ -47,6 +52,25 @@ std::optional<std::filesystem::path> DefaultFileManager::containerURL(
 
 std::string DefaultFileManager::contents(const std::filesystem::path& path) const {
     return readFile(path);
+}
+
+void DefaultFileManager::writeAtomically(std::string_view bytes,
+                                         const std::filesystem::path& path) const {
+    writeFileAtomically(bytes, path);
+}
+
+std::filesystem::path DefaultFileManager::createContainer(std::string_view groupIdentifier) const {
+    if (!containers_ || !namesFolder(groupIdentifier))
+        throw FileError(ENOENT, std::filesystem::path(groupIdentifier));
+    std::filesystem::path container = *containers_ / groupIdentifier;
+    std::error_code error;
+    std::filesystem::create_directories(*containers_, error);
+    constexpr mode_t userAlone = 0700;
+    if (error || (::mkdir(container.c_str(), userAlone) != 0 && errno != EEXIST))
+        throw FileError(error ? error.value() : errno, container);
+    if (!std::filesystem::is_directory(container, error))
+        throw FileError(ENOTDIR, container);
+    return container;
 }
 
 }  // namespace foundation

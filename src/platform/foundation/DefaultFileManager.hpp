@@ -17,6 +17,10 @@ class DefaultFileManager : public FileManager {
     std::optional<std::filesystem::path> containerURL(
         std::string_view groupIdentifier) const override;
     std::string contents(const std::filesystem::path& path) const override;
+    void writeAtomically(std::string_view bytes, const std::filesystem::path& path) const override;
+
+    /// The group's container, made for the user alone where there is none. Throws FileError.
+    std::filesystem::path createContainer(std::string_view groupIdentifier) const;
 
   private:
     std::optional<std::filesystem::path> containers_;

@@ -1,6 +1,7 @@
 #include "platform/foundation/Environment.hpp"
 
 #include "platform/foundation/DefaultFileManager.hpp"
+#include "platform/foundation/SessionBusNotificationCenter.hpp"
 #include "platform/foundation/SystemClock.hpp"
 
 namespace foundation {
@@ -8,7 +9,8 @@ namespace foundation {
 Environment processEnvironment() {
     static const SystemClock clock;
     static const DefaultFileManager fileManager;
-    return {clock, fileManager, Bundle::main(), Locale::current()};
+    static const SessionBusNotificationCenter notifications;
+    return {clock, fileManager, notifications, Bundle::main(), Locale::current()};
 }
 
 }  // namespace foundation

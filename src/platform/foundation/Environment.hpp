@@ -2,16 +2,18 @@
 
 #include "platform/foundation/Bundle.hpp"
 #include "platform/foundation/Clock.hpp"
+#include "platform/foundation/DistributedNotificationCenter.hpp"
 #include "platform/foundation/FileManager.hpp"
 #include "platform/foundation/Locale.hpp"
 
 namespace foundation {
 
-/// What a program sees of the outside world, passed to whatever depends on it. The clock and the
-/// file manager must outlive it.
+/// What a program sees of the outside world, passed to whatever depends on it. The clock, the
+/// file manager and the notification centre must outlive it.
 struct Environment {
     const Clock& clock;
     const FileManager& fileManager;
+    const DistributedNotificationCenter& notifications;
     Bundle mainBundle;
     Locale locale;
 };

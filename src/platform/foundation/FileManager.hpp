@@ -18,6 +18,11 @@ class FileManager {
 
     /// The whole contents of a file. Throws FileError.
     virtual std::string contents(const std::filesystem::path& path) const = 0;
+
+    /// Replaces a file, or makes one: whoever reads it reads the old one or the new one, whole.
+    /// Throws FileError.
+    virtual void writeAtomically(std::string_view bytes,
+                                 const std::filesystem::path& path) const = 0;
 };
 
 }  // namespace foundation

@@ -27,11 +27,6 @@ icu::Locale knownLocale(const std::string& identifier) {
     return icu::Locale(unknown ? "en_US_POSIX" : identifier.c_str());
 }
 
-std::shared_ptr<const Formatter> makeIntegerFormatter(const std::string& locale) {
-    return std::make_shared<Formatter>(
-        icu::number::NumberFormatter::withLocale(knownLocale(locale)));
-}
-
 std::string text(const icu::number::FormattedNumber& number, UErrorCode code) {
     const icu::UnicodeString formatted = number.toString(code);
     if (U_FAILURE(code))
@@ -40,13 +35,46 @@ std::string text(const icu::number::FormattedNumber& number, UErrorCode code) {
     return formatted.toUTF8String(result);
 }
 
+/// The integers of a locale. Numbers that no locale groups are put together from its ten digits:
+/// they are nearly all the numbers that a widget shows, and ICU takes its time for each.
+class Integers {
+  public:
+    explicit Integers(const std::string& locale)
+        : formatter_(icu::number::NumberFormatter::withLocale(knownLocale(locale))) {
+        for (std::size_t digit = 0; digit < digits_.size(); ++digit)
+            digits_[digit] = formatted(static_cast<std::int64_t>(digit));
+    }
+
+    std::string localized(std::int64_t number) const {
+        if (number < 0 || number >= 1000)
+            return formatted(number);
+        std::string result;
+        for (std::int64_t place = number >= 100  ? 100
+                                  : number >= 10 ? 10
+                                                 : 1;
+             place > 0; place /= 10)
+            result += digits_[static_cast<std::size_t>(number / place % 10)];
+        return result;
+    }
+
+  private:
+    std::string formatted(std::int64_t number) const {
+        UErrorCode code = U_ZERO_ERROR;
+        return text(formatter_.formatInt(number, code), code);
+    }
+
+    Formatter formatter_;
+    std::array<std::string, 10> digits_;
+};
+
 }  // namespace
 
 std::string localizedInteger(std::int64_t number, const Locale& locale) {
-    static LocaleObjects<Formatter> known;
-    const auto formatter = known.object(locale.identifier, makeIntegerFormatter);
-    UErrorCode code = U_ZERO_ERROR;
-    return text(formatter->formatInt(number, code), code);
+    static LocaleObjects<Integers> known;
+    const auto make = [](const std::string& identifier) {
+        return std::make_shared<const Integers>(identifier);
+    };
+    return known.object(locale.identifier, make)->localized(number);
 }
 
 std::string localizedDecimal(double number, int fractionDigits, const Locale& locale) {

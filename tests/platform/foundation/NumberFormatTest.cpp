@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
+#include <unicode/numberformatter.h>
 #include <unicode/uloc.h>
 
 #include <bit>
@@ -46,6 +47,23 @@ TEST(NumberFormat, IntegersTakeTheDigitsAndGroupingOfTheLocale) {
     };
     for (const Case& c : cases)
         EXPECT_EQ(localizedInteger(c.number, {c.locale}), c.text) << c.number << " " << c.locale;
+}
+
+TEST(NumberFormat, IntegersOfFewDigitsAreWhatEveryLocaleWrites) {
+    std::int32_t count = 0;
+    const icu::Locale* locales = icu::Locale::getAvailableLocales(count);
+    ASSERT_GT(count, 100);
+    for (std::int32_t i = 0; i < count; ++i) {
+        const std::string locale = locales[i].getName();
+        const auto formatter = icu::number::NumberFormatter::withLocale(locales[i]);
+        for (const std::int64_t number : {0, 7, 10, 45, 90, 99, 100, 101, 305, 999, 1000, 1001}) {
+            UErrorCode code = U_ZERO_ERROR;
+            std::string expected;
+            formatter.formatInt(number, code).toString(code).toUTF8String(expected);
+            ASSERT_TRUE(U_SUCCESS(code));
+            EXPECT_EQ(localizedInteger(number, {locale}), expected) << number << " " << locale;
+        }
+    }
 }
 
 TEST(NumberFormat, DecimalsTakeTheSeparatorsOfTheLocale) {

@@ -2,23 +2,19 @@
 
 #include "platform/views/scene/Recorder.hpp"
 
-#include <utility>
-
 namespace views {
 
 Button::Button(intents::ArchivedAction action, View label)
     : action_(std::move(action)), label_(std::move(label)) {}
 
-Button Button::disabled(bool isDisabled) const {
-    Button copy = *this;
-    copy.enabled_ = !isDisabled;
-    return copy;
+Button Button::disabled(bool isDisabled) && {
+    enabled_ = !isDisabled;
+    return std::move(*this);
 }
 
-Button Button::accessibilityLabel(std::string text) const {
-    Button copy = *this;
-    copy.accessibilityLabel_ = std::move(text);
-    return copy;
+Button Button::accessibilityLabel(std::string text) && {
+    accessibilityLabel_ = std::move(text);
+    return std::move(*this);
 }
 
 Size Button::sizeThatFits(const Proposal& proposal, LayoutContext& context) const {

@@ -4,6 +4,7 @@
 #include "platform/views/view/View.hpp"
 
 #include <string>
+#include <utility>
 
 namespace views {
 
@@ -14,9 +15,13 @@ class Button : public Modifiers<Button> {
     Button(intents::ArchivedAction action, View label);
 
     /// A disabled button stays as it looks and does not react.
-    Button disabled(bool isDisabled) const;
+    Button disabled(bool isDisabled) const& { return Button(*this).disabled(isDisabled); }
+    Button disabled(bool isDisabled) &&;
     /// What a screen reader says instead of the label's texts.
-    Button accessibilityLabel(std::string text) const;
+    Button accessibilityLabel(std::string text) const& {
+        return Button(*this).accessibilityLabel(std::move(text));
+    }
+    Button accessibilityLabel(std::string text) &&;
 
     Size sizeThatFits(const Proposal& proposal, LayoutContext& context) const;
     double firstBaseline(const Proposal& proposal, LayoutContext& context) const;

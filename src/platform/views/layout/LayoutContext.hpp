@@ -1,10 +1,13 @@
 #pragma once
 
 #include "platform/views/layout/StackLayout.hpp"
+#include "platform/views/text/TextLayout.hpp"
 #include "platform/views/text/TextMeasurer.hpp"
 
+#include <array>
 #include <cstddef>
 #include <memory>
+#include <memory_resource>
 #include <unordered_map>
 #include <vector>
 
@@ -12,8 +15,8 @@ namespace views {
 
 class View;
 
-/// What one layout pass knows: the text engine, the size of a pixel, and what its stacks have
-/// already worked out, since a stack is asked for the same offer several times.
+/// What one layout pass knows: the text engine, the size of a pixel, and what its stacks and texts
+/// have already worked out, since each is asked for the same offer several times.
 class LayoutContext {
   public:
     /// `scale` is pixels per point.
@@ -32,19 +35,41 @@ class LayoutContext {
     const StackLayout* remembered(const void* stack, const Proposal& proposal) const;
     const StackLayout& remember(const void* stack, const Proposal& proposal, StackLayout layout);
 
+    /// The same of a text, for a width and a number of lines.
+    const TextLayout* remembered(const void* text, double width, std::size_t lines) const;
+    const TextLayout& remember(const void* text,
+                               double width,
+                               std::size_t lines,
+                               TextLayout layout);
+
+    /// Memory for what is needed until the end of the pass, none of it freed before.
+    std::pmr::memory_resource* memory() { return &memory_; }
+
     /// Keeps a view made during the pass until its end, and so its place in what is remembered.
     const View& keep(View view);
 
   private:
-    struct Key {
+    struct StackKey {
         const void* stack;
         Proposal proposal;
-        bool operator==(const Key&) const = default;
+        bool operator==(const StackKey&) const = default;
+    };
+    struct TextKey {
+        const void* text;
+        double width;
+        std::size_t lines;
+        bool operator==(const TextKey&) const = default;
     };
     struct Hash {
-        std::size_t operator()(const Key& key) const;
+        std::size_t operator()(const StackKey& key) const;
+        std::size_t operator()(const TextKey& key) const;
     };
-    std::unordered_map<Key, StackLayout, Hash> layouts_;
+
+    // As much as an ordinary face takes.
+    alignas(std::max_align_t) std::array<std::byte, 24 * 1024> buffer_;
+    std::pmr::monotonic_buffer_resource memory_{buffer_.data(), buffer_.size()};
+    std::pmr::unordered_map<StackKey, StackLayout, Hash> stacks_{&memory_};
+    std::pmr::unordered_map<TextKey, TextLayout, Hash> texts_{&memory_};
     std::vector<std::unique_ptr<const View>> kept_;
 };
 

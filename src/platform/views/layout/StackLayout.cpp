@@ -16,8 +16,9 @@ bool choosesBefore(const Flexibility& a, const Flexibility& b) {
 
 }  // namespace
 
-std::vector<std::size_t> choosingOrder(std::span<const Flexibility> children) {
-    std::vector<std::size_t> order(children.size());
+std::pmr::vector<std::size_t> choosingOrder(std::span<const Flexibility> children,
+                                            std::pmr::memory_resource* memory) {
+    std::pmr::vector<std::size_t> order(children.size(), memory);
     std::iota(order.begin(), order.end(), std::size_t{0});
     std::sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
         if (choosesBefore(children[a], children[b]))

@@ -35,7 +35,11 @@ bool liesOutside(double start, double length, double card) {
 }  // namespace
 
 Recorder::Recorder(Size card) {
+    constexpr std::size_t usualLength = 64;  // of a list in a face, so that few have to grow
     scene_.size = card;
+    scene_.drawing.reserve(usualLength);
+    scene_.controls.reserve(usualLength);
+    scene_.accessibility.reserve(usualLength);
 }
 
 void Recorder::fill(FillShape command) {

@@ -74,8 +74,7 @@ const StackLayout& LinearStack::laidOut(const Proposal& proposal, LayoutContext&
 }
 
 StackLayout LinearStack::layOut(const Proposal& proposal, LayoutContext& context) const {
-    StackLayout layout;
-    layout.children.resize(children_.size());
+    StackLayout layout{.children = std::pmr::vector<Placement>(children_.size(), context.memory())};
     const auto take = [&](std::size_t index, std::optional<double> length) {
         const Proposal offer = offering(axis_, length, proposal);
         Size size = measured(children_[index], offer, context);
@@ -86,7 +85,7 @@ StackLayout LinearStack::layOut(const Proposal& proposal, LayoutContext& context
     Proposal offered = proposal;
     if (const auto length = along(axis_, offered)) {
         const double gaps = spacing_ * (static_cast<double>(children_.size()) - 1);
-        shareLength(*length - gaps, flexibilities(proposal, context), take);
+        shareLength(*length - gaps, flexibilities(proposal, context), take, context.memory());
     } else {
         for (std::size_t i = 0; i < children_.size(); ++i)
             take(i, std::nullopt);
@@ -110,9 +109,9 @@ Size LinearStack::measured(const View& child, const Proposal& offer, LayoutConte
     return size;
 }
 
-std::vector<Flexibility> LinearStack::flexibilities(const Proposal& proposal,
-                                                    LayoutContext& context) const {
-    std::vector<Flexibility> answers;
+std::pmr::vector<Flexibility> LinearStack::flexibilities(const Proposal& proposal,
+                                                         LayoutContext& context) const {
+    std::pmr::vector<Flexibility> answers(context.memory());
     answers.reserve(children_.size());
     for (const View& child : children_) {
         Size shortest = measured(child, offering(axis_, 0, proposal), context);
@@ -123,7 +122,7 @@ std::vector<Flexibility> LinearStack::flexibilities(const Proposal& proposal,
     return answers;
 }
 
-double LinearStack::spread(std::vector<Placement>& children) const {
+double LinearStack::spread(std::span<Placement> children) const {
     double end = 0;
     double gap = 0;
     for (Placement& child : children) {
@@ -136,7 +135,7 @@ double LinearStack::spread(std::vector<Placement>& children) const {
     return end;
 }
 
-double LinearStack::align(std::vector<Placement>& children) const {
+double LinearStack::align(std::span<Placement> children) const {
     double widest = 0;
     for (const Placement& child : children) {
         Size size = child.frame.size();
@@ -151,9 +150,8 @@ double LinearStack::align(std::vector<Placement>& children) const {
     return widest;
 }
 
-double LinearStack::alignOnBaseline(std::vector<Placement>& children,
-                                    LayoutContext& context) const {
-    std::vector<double> baselines;
+double LinearStack::alignOnBaseline(std::span<Placement> children, LayoutContext& context) const {
+    std::pmr::vector<double> baselines(context.memory());
     double above = 0;
     double below = 0;
     for (std::size_t i = 0; i < children.size(); ++i) {

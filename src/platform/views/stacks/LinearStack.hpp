@@ -3,6 +3,8 @@
 #include "platform/views/layout/StackLayout.hpp"
 #include "platform/views/view/View.hpp"
 
+#include <memory_resource>
+#include <span>
 #include <vector>
 
 namespace views {
@@ -24,13 +26,14 @@ class LinearStack {
     StackLayout layOut(const Proposal& proposal, LayoutContext& context) const;
     /// The size of a child for an offer.
     Size measured(const View& child, const Proposal& offer, LayoutContext& context) const;
-    std::vector<Flexibility> flexibilities(const Proposal& proposal, LayoutContext& context) const;
+    std::pmr::vector<Flexibility> flexibilities(const Proposal& proposal,
+                                                LayoutContext& context) const;
     /// Puts the children behind each other along the axis; answers how much they take.
-    double spread(std::vector<Placement>& children) const;
+    double spread(std::span<Placement> children) const;
     /// Puts the children where the alignment wants them across the axis; answers how much they
     /// take.
-    double align(std::vector<Placement>& children) const;
-    double alignOnBaseline(std::vector<Placement>& children, LayoutContext& context) const;
+    double align(std::span<Placement> children) const;
+    double alignOnBaseline(std::span<Placement> children, LayoutContext& context) const;
 
     Axis axis_;
     Alignment alignment_;

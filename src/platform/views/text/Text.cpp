@@ -58,14 +58,18 @@ Text Text::lineLimit(std::size_t lines) const {
     return copy;
 }
 
-TextLayout Text::laidOut(const Proposal& proposal, LayoutContext& context) const {
+const TextLayout& Text::laidOut(const Proposal& proposal, LayoutContext& context) const {
+    const double width = proposal.width.value_or(infinity);
     const std::size_t lines =
         std::min(lineLimit_, linesWithin(proposal.height, font_.lineHeight()));
-    return layOut(text_, font_, tracking_, proposal.width.value_or(infinity), lines, context.text);
+    if (const TextLayout* known = context.remembered(this, width, lines))
+        return *known;
+    return context.remember(this, width, lines,
+                            layOut(text_, font_, tracking_, width, lines, context.text));
 }
 
 Size Text::sizeThatFits(const Proposal& proposal, LayoutContext& context) const {
-    const TextLayout layout = laidOut(proposal, context);
+    const TextLayout& layout = laidOut(proposal, context);
     const double width = context.roundedUpToPixel(layout.width);
     return {std::min(width, proposal.width.value_or(infinity)),
             static_cast<double>(layout.lines.size()) * font_.lineHeight()};

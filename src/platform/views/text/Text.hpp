@@ -34,7 +34,7 @@ class Text : public Modifiers<Text> {
     void draw(const Placement& place, LayoutContext& context, Recorder& recorder) const;
 
   private:
-    TextLayout laidOut(const Proposal& proposal, LayoutContext& context) const;
+    const TextLayout& laidOut(const Proposal& proposal, LayoutContext& context) const;
 
     std::string text_;
     Font font_;

@@ -49,23 +49,29 @@ class Typesetter {
     /// Sets one paragraph; false when the last line is used up.
     bool setParagraph(std::string_view paragraph, bool moreFollows) {
         const bool isLastLine = layout_.lines.size() + 1 == maxLines_;
-        if (!(isLastLine && moreFollows) && width(paragraph) <= maxWidth_) {
-            add(paragraph);
-            return !isLastLine;
+        if (!(isLastLine && moreFollows)) {
+            const double whole = width(paragraph);
+            if (whole <= maxWidth_) {
+                add(paragraph, whole);
+                return !isLastLine;
+            }
         }
         const auto clusters = measurer_.clusters(paragraph, font_, tracking_);
         const auto breaks = lineBreakOpportunities(paragraph);
         std::size_t start = 0;
         while (layout_.lines.size() + 1 < maxLines_) {
             const std::size_t end = lineEnd(paragraph, start, clusters, breaks);
-            add(withoutTrailingSpace(paragraph.substr(start, end - start)));
+            const auto line = withoutTrailingSpace(paragraph.substr(start, end - start));
+            add(line, width(line));
             start = end;
             if (start == paragraph.size())
                 return true;
         }
         const std::string_view rest = paragraph.substr(start);
-        if (!moreFollows && width(withoutTrailingSpace(rest)) <= maxWidth_)
-            add(withoutTrailingSpace(rest));
+        const auto line = withoutTrailingSpace(rest);
+        const double needed = width(line);
+        if (!moreFollows && needed <= maxWidth_)
+            add(line, needed);
         else
             addCut(rest, start, clusters);
         return false;
@@ -100,7 +106,7 @@ class Typesetter {
     void addCut(std::string_view rest, std::size_t start, std::span<const TextCluster> clusters) {
         const double room = maxWidth_ - width(ellipsis);
         if (room < 0) {
-            add("");
+            add("", 0);
             return;
         }
         std::size_t end = start;
@@ -113,7 +119,7 @@ class Typesetter {
         }
         std::string line(withoutTrailingSpace(rest.substr(0, end - start)));
         line += ellipsis;
-        add(line);
+        add(line, width(line));
     }
 
     std::span<const TextCluster>::iterator firstBehind(
@@ -124,10 +130,12 @@ class Typesetter {
             [](std::size_t offset, const TextCluster& cluster) { return offset < cluster.end; });
     }
 
-    double width(std::string_view text) const { return measurer_.width(text, font_, tracking_); }
+    double width(std::string_view text) const {
+        return text.empty() ? 0 : measurer_.width(text, font_, tracking_);
+    }
 
-    void add(std::string_view line) {
-        layout_.width = std::max(layout_.width, line.empty() ? 0 : width(line));
+    void add(std::string_view line, double lineWidth) {
+        layout_.width = std::max(layout_.width, lineWidth);
         layout_.lines.emplace_back(line);
     }
 

@@ -51,6 +51,19 @@ TEST(LayoutContext, RemembersByStackAndOffer) {
     EXPECT_EQ(context.remembered(&other, {10, std::nullopt}), nullptr);
 }
 
+TEST(LayoutContext, RemembersTextsByWidthAndLines) {
+    const support::FixedTextMeasurer measurer;
+    LayoutContext context(measurer, 2);
+    const int text = 0;
+    const int other = 0;
+    context.remember(&text, 70, 1, {.lines = {"uno"}, .width = 20});
+    ASSERT_NE(context.remembered(&text, 70, 1), nullptr);
+    EXPECT_EQ(context.remembered(&text, 70, 1)->width, 20);
+    EXPECT_EQ(context.remembered(&text, 70, 2), nullptr);
+    EXPECT_EQ(context.remembered(&text, 71, 1), nullptr);
+    EXPECT_EQ(context.remembered(&other, 70, 1), nullptr);
+}
+
 TEST(LayoutContext, WhatIsRememberedStaysInItsPlace) {
     const support::FixedTextMeasurer measurer;
     LayoutContext context(measurer, 2);

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/foundation/FileCalls.hpp"
+
+#include <filesystem>
+#include <string_view>
+
+namespace foundation {
+
+/// Puts a new file with these bytes in the place of what stands at the path: whoever reads it reads
+/// one file or the other, whole. A regular file hands its mode on; a link is replaced, not
+/// followed. Of several writers the last one wins. What a crashed writer has left in the folder is
+/// removed. Does not wait for the disk. Any thread. Throws FileError: then the old file stands
+/// there, and nothing else is in the folder.
+void writeFileAtomically(std::string_view bytes,
+                         const std::filesystem::path& path,
+                         const FileCalls& calls = FileCalls::ofSystem());
+
+}  // namespace foundation
