@@ -1,0 +1,120 @@
+#include "extension/Escaparate.hpp"
+#include "extension/NurvaWidgets.hpp"
+#include "platform/canvas/FontLibrary.hpp"
+#include "platform/canvas/PNG.hpp"
+#include "platform/canvas/PangoTextMeasurer.hpp"
+#include "platform/canvas/PixelCanvas.hpp"
+#include "platform/foundation/json/JSONEncoder.hpp"
+#include "platform/views/scene/SceneJSON.hpp"
+#include "platform/widgets/EntryRenderer.hpp"
+#include "support/PictureComparison.hpp"
+#include "support/World.hpp"
+
+#include <cairo.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <memory>
+
+namespace nurva {
+namespace {
+
+constexpr double escala = 2;
+
+bool rehacer() {
+    return std::getenv("NURVA_REMAKE_GOLDENS") != nullptr;
+}
+
+std::filesystem::path archivo(const Muestra& muestra, const char* tipo) {
+    return std::filesystem::path(NURVA_TESTS_FOLDER) / "golden" / (muestra.nombre + tipo);
+}
+
+std::string leido(const std::filesystem::path& ruta) {
+    std::ifstream entrada(ruta, std::ios::binary);
+    return {std::istreambuf_iterator<char>(entrada), {}};
+}
+
+void escrito(const std::filesystem::path& ruta, const std::string& bytes) {
+    std::ofstream(ruta, std::ios::binary) << bytes;
+}
+
+/// The scene as text, one element a line.
+std::string enLineas(const views::Scene& escena) {
+    foundation::Encoder encoder;
+    encoder.encodeObject([&] { views::encodeMembers(encoder, escena); });
+    std::string texto = encoder.text();
+    for (const char* comienzo :
+         {"{\"op\":", "{\"frame\":", "{\"role\":", "\"controls\":[", "\"accessibility\":["})
+        for (std::size_t i = texto.find(comienzo); i != std::string::npos;
+             i = texto.find(comienzo, i + 2))
+            texto.insert(i, "\n");
+    return texto + "\n";
+}
+
+views::Scene escenaDe(const Muestra& muestra, canvas::FontLibrary& fuentes) {
+    support::World mundo(support::World::bundleIn({muestra.idiomaDelSistema}), muestra.locale);
+    mundo.files.containers["group.org.nurva.Nurva"] = "/contenedor";
+    if (muestra.estado)
+        mundo.files.files["/contenedor/estado.json"] =
+            foundation::JSONEncoder().encode(*muestra.estado);
+    const auto paquete = NurvaWidgets();
+    const auto* widget = widgets::widgetOfKind(paquete, muestra.kind);
+    const auto familia = widget->families().at(0);
+    const auto entrada = widget->snapshot({.environment = mundo.environment, .family = familia});
+    const canvas::PangoTextMeasurer medidor(fuentes);
+    return widgets::EntryRenderer(mundo.environment, medidor)
+        .render(entrada, {.size = widgets::cardSize(familia),
+                          .margin = widgets::contentMargin,
+                          .scale = escala});
+}
+
+struct Superficie {
+    void operator()(cairo_surface_t* superficie) const { cairo_surface_destroy(superficie); }
+};
+
+struct Golden : testing::TestWithParam<Muestra> {
+    static canvas::FontLibrary& fuentes() {
+        static canvas::FontLibrary unicas;
+        return unicas;
+    }
+};
+
+TEST_P(Golden, SceneIsAsKept) {
+    const std::string texto = enLineas(escenaDe(GetParam(), fuentes()));
+    const auto ruta = archivo(GetParam(), ".txt");
+    if (rehacer())
+        escrito(ruta, texto);
+    EXPECT_EQ(texto, leido(ruta));
+}
+
+TEST_P(Golden, PictureIsAsKept) {
+    canvas::PixelCanvas lienzo(fuentes());
+    const canvas::Pixels pixeles = lienzo.draw(escenaDe(GetParam(), fuentes()), escala);
+    const auto ruta = archivo(GetParam(), ".png");
+    if (rehacer())
+        escrito(ruta, canvas::encodePNG(pixeles));
+    const std::unique_ptr<cairo_surface_t, Superficie> guardada(
+        cairo_image_surface_create_from_png(ruta.c_str()));
+    ASSERT_EQ(cairo_surface_status(guardada.get()), CAIRO_STATUS_SUCCESS) << ruta;
+    ASSERT_EQ(cairo_image_surface_get_width(guardada.get()), pixeles.size.width);
+    ASSERT_EQ(cairo_image_surface_get_height(guardada.get()), pixeles.size.height);
+    const auto* datos =
+        reinterpret_cast<const std::uint32_t*>(cairo_image_surface_get_data(guardada.get()));
+    // Another version of the font rasterizer may move an edge by a shade, not a letter by a pixel.
+    const auto diferencia = comparePictures({datos, pixeles.size.count()}, pixeles.argb, 24);
+    EXPECT_LE(diferencia.changedShare, 0.001) << diferencia;
+    EXPECT_LE(diferencia.averageChange, 0.1) << diferencia;
+}
+
+INSTANTIATE_TEST_SUITE_P(Escaparate, Golden, testing::ValuesIn(escaparate()), [](const auto& caso) {
+    std::string nombre = caso.param.nombre;
+    std::replace(nombre.begin(), nombre.end(), '-', '_');
+    return nombre;
+});
+
+}  // namespace
+}  // namespace nurva
