@@ -1,0 +1,51 @@
+#pragma once
+
+#include "anfitrion/Escena.hpp"
+#include "platform/foundation/Environment.hpp"
+#include "platform/foundation/FormatArgument.hpp"
+
+#include <filesystem>
+#include <functional>
+#include <string_view>
+#include <vector>
+
+namespace anfitrion {
+
+/// How the demo host application tells what it refused or could not do: a Spanish key and its
+/// arguments.
+using Aviso = std::function<void(std::string_view, const std::vector<foundation::FormatArgument>&)>;
+
+/// The demo host application: publishes the snapshot of a scene in the group's container, and does
+/// what the widgets ask for. For one thread.
+class Anfitrion {
+  public:
+    /// Publishes the first snapshot in the container of the group.
+    Anfitrion(Escena escena,
+              std::filesystem::path contenedor,
+              const foundation::Environment& entorno,
+              Aviso aviso);
+
+    /// Reads the request that waits, does it or refuses it, and publishes what came of it.
+    void atenderPeticion();
+
+    /// Plays the steps whose time has come, and publishes again what is about to be too old.
+    void seguir();
+
+    /// Seconds until `seguir` has something to do.
+    double segundosHastaSeguir() const;
+
+    const nurva::EstadoParaWidgets& estado() const { return estado_; }
+
+  private:
+    void publicar();
+
+    const foundation::Environment& entorno_;
+    Aviso aviso_;
+    std::vector<Paso> pasos_;
+    nurva::EstadoParaWidgets estado_;
+    std::filesystem::path contenedor_;
+    std::size_t siguiente_ = 0;
+    foundation::Date ultimoPaso_;
+};
+
+}  // namespace anfitrion

@@ -1,0 +1,84 @@
+#include "cli/CommandLine.hpp"
+
+#include "cli/Commands.hpp"
+#include "cli/Failure.hpp"
+#include "cli/Message.hpp"
+
+#include <CLI/CLI.hpp>
+
+#include <iostream>
+#include <memory>
+#include <string>
+
+namespace cli {
+
+namespace {
+
+int report(ExitStatus status, const std::string& text) {
+    if (!text.empty())
+        std::cerr << "nurva: " << text << '\n';
+    return static_cast<int>(status);
+}
+
+/// What is wrong with the command line, in the user's language; CLI11 speaks English only.
+std::string text(const CLI::ParseError& error) {
+    const std::string detail = error.what();
+    if (dynamic_cast<const CLI::RequiredError*>(&error))
+        return message("falta algo en la orden: %@", {detail});
+    if (dynamic_cast<const CLI::ExtrasError*>(&error))
+        return message("sobra algo en la orden: %@", {detail});
+    return message("un valor de la orden no sirve: %@", {detail});
+}
+
+void addHelp(CLI::App& command) {
+    command.set_help_flag("-h,--help", message("Muestra esta ayuda"))->group(message("Opciones"));
+}
+
+/// Puts the words that CLI11 adds to the help into the user's language. Commands added later take
+/// them over.
+void speakUsersLanguage(CLI::App& app) {
+    const auto formatter = std::make_shared<CLI::Formatter>();
+    formatter->label("Usage", message("Uso"));
+    formatter->label("OPTIONS", message("OPCIONES"));
+    formatter->label("Positionals", message("Argumentos"));
+    formatter->label("SUBCOMMAND", message("ORDEN"));
+    formatter->label("REQUIRED", message("OBLIGATORIO"));
+    formatter->label("TEXT", message("TEXTO"));
+    formatter->label("FLOAT", message("NÚMERO"));
+    app.formatter(formatter);
+    app.option_defaults()->group(message("Opciones"));
+    addHelp(app);
+}
+
+}  // namespace
+
+int run(int argumentCount, const char* const* arguments) {
+    CLI::App app(message("Los widgets de Nurva: dibújalos, pruébalos, revisa su estado"), "nurva");
+    speakUsersLanguage(app);
+    app.require_subcommand(1);
+    addRender(app);
+    addTimeline(app);
+    addPlaceholder(app);
+    addWidgets(app);
+    addCheck(app);
+    addCheckRequest(app);
+    addPerform(app);
+    addHost(app);
+    for (CLI::App* command : app.get_subcommands({})) {
+        command->group(message("Órdenes"));
+        addHelp(*command);
+    }
+    try {
+        app.parse(argumentCount, arguments);
+        return static_cast<int>(ExitStatus::done);
+    } catch (const CLI::Success& help) {
+        return app.exit(help);
+    } catch (const CLI::ParseError& error) {
+        return report(ExitStatus::wrongUse,
+                      text(error) + "\n       " + message("ayuda: nurva --help"));
+    } catch (const Failure& failure) {
+        return report(failure.status, failure.what());
+    }
+}
+
+}  // namespace cli

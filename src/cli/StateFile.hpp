@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/foundation/FileManager.hpp"
+
+#include <string>
+
+namespace cli {
+
+/// A file manager whose every group container holds one snapshot: the file named on the command
+/// line, or with "-" what stands on standard input, which is read once. Nothing can be written.
+class StateFile final : public foundation::FileManager {
+  public:
+    explicit StateFile(std::string name);
+
+    std::optional<std::filesystem::path> containerURL(std::string_view group) const override;
+    std::string contents(const std::filesystem::path& path) const override;
+    void writeAtomically(std::string_view bytes, const std::filesystem::path& path) const override;
+
+  private:
+    std::string name_;
+    std::string input_;
+};
+
+}  // namespace cli

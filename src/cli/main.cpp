@@ -1,0 +1,5 @@
+#include "cli/CommandLine.hpp"
+
+int main(int argumentCount, char** arguments) {
+    return cli::run(argumentCount, arguments);
+}
