@@ -2,6 +2,7 @@
 
 #include "platform/canvas/FittedSymbol.hpp"
 #include "platform/canvas/Key.hpp"
+#include "platform/canvas/Polyline.hpp"
 #include "platform/canvas/TextLine.hpp"
 #include "platform/canvas/Tracing.hpp"
 
@@ -29,17 +30,14 @@ views::Shape scaled(const views::Shape& shape, double scale) {
     return shape;
 }
 
-/// The finite ones of some points in pixels, counted from the whole pixel that they begin at.
+/// A path in pixels, counted from the whole pixel that they begin at.
 struct PixelPoints {
     int x = 0;
     int y = 0;
     std::vector<views::Point> points;
 
-    PixelPoints(const std::vector<views::Point>& cardPoints, const PixelGrid& grid) {
-        for (const views::Point& point : cardPoints) {
-            if (isFinite(point))
-                points.push_back(grid.pixels(point));
-        }
+    PixelPoints(const std::vector<views::Point>& cardPoints, const PixelGrid& grid)
+        : points(pixelPolyline(cardPoints, grid)) {
         if (points.empty())
             return;
         double left = points.front().x;

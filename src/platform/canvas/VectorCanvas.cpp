@@ -3,6 +3,7 @@
 #include "platform/canvas/FittedSymbol.hpp"
 #include "platform/canvas/Handles.hpp"
 #include "platform/canvas/PixelGrid.hpp"
+#include "platform/canvas/Polyline.hpp"
 #include "platform/canvas/Stencil.hpp"
 #include "platform/canvas/TextLine.hpp"
 #include "platform/canvas/Tracing.hpp"
@@ -20,16 +21,12 @@ void setColor(cairo_t* cairo, const views::Color& color) {
     cairo_set_source_rgba(cairo, color.red, color.green, color.blue, color.alpha);
 }
 
-std::vector<views::Point> finitePoints(const std::vector<views::Point>& points,
-                                       const PixelGrid& grid) {
-    std::vector<views::Point> result;
-    for (const views::Point& point : points) {
-        if (!isFinite(point))
-            continue;
-        const views::Point bounded = grid.pixels(point);
-        result.push_back({bounded.x / grid.scale, bounded.y / grid.scale});
-    }
-    return result;
+/// A path in points again, after it has been thinned in pixels.
+std::vector<views::Point> polyline(const std::vector<views::Point>& points, const PixelGrid& grid) {
+    std::vector<views::Point> line = pixelPolyline(points, grid);
+    for (views::Point& point : line)
+        point = {point.x / grid.scale, point.y / grid.scale};
+    return line;
 }
 
 struct Player {
@@ -57,14 +54,14 @@ struct Player {
     }
 
     void operator()(const views::FillPath& fill) const {
-        trace(cairo, finitePoints(fill.points, grid));
+        trace(cairo, polyline(fill.points, grid));
         cairo_close_path(cairo);
         setColor(cairo, fill.color);
         cairo_fill(cairo);
     }
 
     void operator()(const views::StrokePath& stroke) const {
-        const std::vector<views::Point> points = finitePoints(stroke.points, grid);
+        const std::vector<views::Point> points = polyline(stroke.points, grid);
         if (points.size() < 2 || !canStroke(stroke.style, grid.scale))
             return;
         trace(cairo, points);

@@ -34,11 +34,12 @@ inline double baselineOf(const View& view, const Proposal& offer) {
     return view.firstBaseline(offer, context);
 }
 
-/// What the view draws at the origin, in the size that it takes of the offer.
+/// What the view draws at the origin, in the size that it takes of the offer; on a card without
+/// end.
 inline Scene drawn(const View& view, const Proposal& offer) {
     const support::FixedTextMeasurer measurer;
     LayoutContext context(measurer, 2);
-    Recorder recorder({1000, 1000});
+    Recorder recorder({infinity, infinity});
     const Size size = view.sizeThatFits(offer, context);
     view.draw({{0, 0, size.width, size.height}, offer}, context, recorder);
     return std::move(recorder).finish();

@@ -31,15 +31,43 @@ double flexibleLength(Length offer, double child, Length least, Length most) {
                 : std::max(std::min(bound, child), *least);
 }
 
-class FixedFrameView {
+Proposal offered(const FixedFrame& frame, const Proposal& proposal) {
+    return {frame.width ? frame.width : proposal.width,
+            frame.height ? frame.height : proposal.height};
+}
+
+Size sizeAround(const View& inner,
+                const FixedFrame& frame,
+                const Proposal& proposal,
+                LayoutContext& context) {
+    if (frame.width && frame.height)
+        return {*frame.width, *frame.height};
+    const Size size = inner.sizeThatFits(offered(frame, proposal), context);
+    return {frame.width.value_or(size.width), frame.height.value_or(size.height)};
+}
+
+Proposal offered(const FlexibleFrame& frame, const Proposal& proposal) {
+    return {bounded(proposal.width, frame.minWidth, frame.maxWidth),
+            bounded(proposal.height, frame.minHeight, frame.maxHeight)};
+}
+
+Size sizeAround(const View& inner,
+                const FlexibleFrame& frame,
+                const Proposal& proposal,
+                LayoutContext& context) {
+    const Size size = inner.sizeThatFits(offered(frame, proposal), context);
+    return {flexibleLength(proposal.width, size.width, frame.minWidth, frame.maxWidth),
+            flexibleLength(proposal.height, size.height, frame.minHeight, frame.maxHeight)};
+}
+
+/// A view in a frame of either kind, aligned in it.
+template <class Frame>
+class FramedView {
   public:
-    FixedFrameView(View inner, const FixedFrame& frame) : inner_(std::move(inner)), frame_(frame) {}
+    FramedView(View inner, const Frame& frame) : inner_(std::move(inner)), frame_(frame) {}
 
     Size sizeThatFits(const Proposal& proposal, LayoutContext& context) const {
-        if (frame_.width && frame_.height)
-            return {*frame_.width, *frame_.height};
-        const Size inner = inner_.sizeThatFits(offer(proposal), context);
-        return {frame_.width.value_or(inner.width), frame_.height.value_or(inner.height)};
+        return sizeAround(inner_, frame_, proposal, context);
     }
 
     void draw(const Placement& place, LayoutContext& context, Recorder& recorder) const {
@@ -53,60 +81,22 @@ class FixedFrameView {
     }
 
   private:
-    Proposal offer(const Proposal& proposal) const {
-        return {frame_.width ? frame_.width : proposal.width,
-                frame_.height ? frame_.height : proposal.height};
-    }
     Placement placed(const Rect& frame, const Proposal& proposal, LayoutContext& context) const {
-        return aligned(inner_, offer(proposal), frame_.alignment, frame, context);
+        return aligned(inner_, offered(frame_, proposal), frame_.alignment, frame, context);
     }
 
     View inner_;
-    FixedFrame frame_;
-};
-
-class FlexibleFrameView {
-  public:
-    FlexibleFrameView(View inner, const FlexibleFrame& frame)
-        : inner_(std::move(inner)), frame_(frame) {}
-
-    Size sizeThatFits(const Proposal& proposal, LayoutContext& context) const {
-        const Size inner = inner_.sizeThatFits(offer(proposal), context);
-        return {flexibleLength(proposal.width, inner.width, frame_.minWidth, frame_.maxWidth),
-                flexibleLength(proposal.height, inner.height, frame_.minHeight, frame_.maxHeight)};
-    }
-
-    void draw(const Placement& place, LayoutContext& context, Recorder& recorder) const {
-        inner_.draw(placed(place.frame, place.proposal, context), context, recorder);
-    }
-
-    double firstBaseline(const Proposal& proposal, LayoutContext& context) const {
-        const Size size = sizeThatFits(proposal, context);
-        const Placement inner = placed({0, 0, size.width, size.height}, proposal, context);
-        return inner.frame.y + inner_.firstBaseline(inner.proposal, context);
-    }
-
-  private:
-    Proposal offer(const Proposal& proposal) const {
-        return {bounded(proposal.width, frame_.minWidth, frame_.maxWidth),
-                bounded(proposal.height, frame_.minHeight, frame_.maxHeight)};
-    }
-    Placement placed(const Rect& frame, const Proposal& proposal, LayoutContext& context) const {
-        return aligned(inner_, offer(proposal), frame_.alignment, frame, context);
-    }
-
-    View inner_;
-    FlexibleFrame frame_;
+    Frame frame_;
 };
 
 }  // namespace
 
 View framed(const View& view, const FixedFrame& frame) {
-    return modified(view, [&](const View& inner) { return FixedFrameView(inner, frame); });
+    return modified(view, [&](const View& inner) { return FramedView(inner, frame); });
 }
 
 View framed(const View& view, const FlexibleFrame& frame) {
-    return modified(view, [&](const View& inner) { return FlexibleFrameView(inner, frame); });
+    return modified(view, [&](const View& inner) { return FramedView(inner, frame); });
 }
 
 }  // namespace views

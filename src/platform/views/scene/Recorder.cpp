@@ -91,6 +91,12 @@ void Recorder::background(const Color& color) {
     scene_.background = color;
 }
 
+bool Recorder::isOutOfReach(const Rect& frame) const {
+    const Size card = scene_.size;
+    return isOutside({frame.x - card.width, frame.y - card.height, frame.width + 2 * card.width,
+                      frame.height + 2 * card.height});
+}
+
 Scene Recorder::finish() && {
     return std::move(scene_);
 }

@@ -43,6 +43,10 @@ class Recorder {
         close(std::move(control), texts);
     }
 
+    /// Whether a view in this frame is more than a card away from the card, and need not be drawn:
+    /// none reaches as far beyond its frame.
+    bool isOutOfReach(const Rect& frame) const;
+
     Scene finish() &&;
 
   private:

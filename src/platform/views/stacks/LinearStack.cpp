@@ -1,6 +1,7 @@
 #include "platform/views/stacks/LinearStack.hpp"
 
 #include "platform/views/layout/LayoutContext.hpp"
+#include "platform/views/scene/Recorder.hpp"
 
 #include <algorithm>
 #include <optional>
@@ -49,7 +50,8 @@ void LinearStack::draw(const Placement& place, LayoutContext& context, Recorder&
     for (std::size_t i = 0; i < children_.size(); ++i) {
         const Placement& child = layout.children[i];
         const Rect frame = child.frame.movedBy(place.frame.x, place.frame.y);
-        children_[i].draw({frame, child.proposal}, context, recorder);
+        if (!recorder.isOutOfReach(frame))
+            children_[i].draw({frame, child.proposal}, context, recorder);
     }
 }
 

@@ -153,5 +153,21 @@ TEST(LinearStack, OfAnyLengthHasGapsOfExactlyTheSpacing) {
     }
 }
 
+TEST(LinearStack, DrawsOnlyTheChildrenWithinACardsReach) {
+    Frames frames;
+    const View column = VStack{.spacing = 0}({
+        forEach(std::vector<int>(1000), [&](int) { return rigid(10, 10, frames); }),
+    });
+    const support::FixedTextMeasurer measurer;
+    LayoutContext context(measurer, 2);
+    Recorder recorder({100, 100});
+    // As a card puts what is too tall: in the middle, sticking out above and below.
+    column.draw({{45, -4950, 10, 10000}, {100, 100}}, context, recorder);
+    ASSERT_FALSE(frames.empty());
+    EXPECT_LE(frames.size(), 32u);
+    EXPECT_LE(frames.front().y, -90);
+    EXPECT_GE(frames.back().bottom(), 190);
+}
+
 }  // namespace
 }  // namespace views
