@@ -66,7 +66,7 @@ class LayoutContext {
     };
 
     // As much as an ordinary face takes.
-    alignas(std::max_align_t) std::array<std::byte, 24 * 1024> buffer_;
+    alignas(std::max_align_t) std::array<std::byte, std::size_t{24} * 1024> buffer_;
     std::pmr::monotonic_buffer_resource memory_{buffer_.data(), buffer_.size()};
     std::pmr::unordered_map<StackKey, StackLayout, Hash> stacks_{&memory_};
     std::pmr::unordered_map<TextKey, TextLayout, Hash> texts_{&memory_};
