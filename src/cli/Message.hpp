@@ -1,15 +1,9 @@
 #pragma once
 
-#include "platform/foundation/FormatArgument.hpp"
-
-#include <string>
-#include <string_view>
-#include <vector>
+#include "platform/foundation/Message.hpp"
 
 namespace cli {
 
-/// A text of the command line in the user's language; the key is the Spanish text.
-std::string message(std::string_view key,
-                    const std::vector<foundation::FormatArgument>& arguments = {});
+using foundation::message;
 
 }  // namespace cli

@@ -21,10 +21,14 @@ std::optional<PropertyList> readInfo(const std::filesystem::path& folder) {
     }
 }
 
+/// Programs stand in `bin`, or in a folder of their own below `libexec`.
 std::filesystem::path installedBundle() {
     std::error_code ignored;
     const auto program = std::filesystem::read_symlink("/proc/self/exe", ignored);
-    return program.parent_path().parent_path() / "share" / "nurva-widgets" / "NurvaWidgets.appex";
+    auto prefix = program.parent_path().parent_path();
+    if (prefix.filename() == "libexec")
+        prefix = prefix.parent_path();
+    return prefix / "share" / "nurva-widgets" / "NurvaWidgets.appex";
 }
 
 /// The names that a folder for a language may have, the closest first: "es_MX", "es-MX", "es".

@@ -17,6 +17,8 @@ class FileDescriptor {
     ~FileDescriptor();
 
     int number() const { return number_; }
+    /// Leaves the descriptor to the caller, who closes it.
+    int release() { return std::exchange(number_, -1); }
     explicit operator bool() const { return number_ >= 0; }
 
   private:

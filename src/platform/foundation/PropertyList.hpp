@@ -22,8 +22,9 @@ struct PropertyList {
     /// many. Any thread; never fails otherwise.
     static std::optional<PropertyList> parse(std::string_view bytes);
 
-    /// This value when it is a string or a dictionary, else null.
+    /// This value when it is a string, an array or a dictionary, else null.
     const std::string* string() const { return std::get_if<std::string>(&value); }
+    const Array* array() const { return std::get_if<Array>(&value); }
     const Dictionary* dictionary() const { return std::get_if<Dictionary>(&value); }
 
     friend bool operator==(const PropertyList&, const PropertyList&) = default;

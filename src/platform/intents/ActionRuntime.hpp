@@ -5,6 +5,7 @@
 #include "platform/intents/BackgroundExecutor.hpp"
 #include "platform/intents/IntentRegistry.hpp"
 
+#include <functional>
 #include <future>
 
 namespace intents {
@@ -17,9 +18,11 @@ class ActionRuntime {
     explicit ActionRuntime(const IntentRegistry& registry) : registry_(registry) {}
 
     /// Makes the action afresh, gives it its values and lets it perform in the background. Throws
-    /// IntentError where it cannot be run; what the action itself throws is in the future.
+    /// IntentError where it cannot be run; what the action itself throws is in the future. Then
+    /// `whenDone` is called, in the background too.
     std::future<IntentResult> perform(const ArchivedAction& action,
-                                      const foundation::Environment& environment);
+                                      const foundation::Environment& environment,
+                                      std::function<void()> whenDone = {});
 
   private:
     const IntentRegistry& registry_;

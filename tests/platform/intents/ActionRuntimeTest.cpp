@@ -49,6 +49,18 @@ TEST(ActionRuntime, HandsOnWhatTheActionThrows) {
     EXPECT_THROW(result.get(), std::runtime_error);
 }
 
+TEST(ActionRuntime, CallsBackOnceTheActionIsDoneHoweverItEnded) {
+    const support::World world;
+    std::vector<std::size_t> postedBefore;
+    {
+        ActionRuntime runtime(registry);
+        const auto recall = [&] { postedBefore.push_back(world.notifications.posted().size()); };
+        runtime.perform(note, world.environment, recall).wait();
+        runtime.perform({.identifier = "Fail"}, world.environment, recall).wait();
+    }
+    EXPECT_EQ(postedBefore, (std::vector<std::size_t>{1, 1}));
+}
+
 TEST(ActionRuntime, TakesPressesFromManyThreads) {
     const support::World world;
     {
