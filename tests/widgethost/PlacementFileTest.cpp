@@ -1,0 +1,114 @@
+#include "support/Program.hpp"
+#include "support/TemporaryFolder.hpp"
+#include "widgethost/DurableFile.hpp"
+#include "widgethost/Monitors.hpp"
+#include "widgethost/PlacementFile.hpp"
+
+#include <gmock/gmock.h>
+#include <sys/stat.h>
+
+#include <iterator>
+
+namespace widgethost {
+namespace {
+
+struct SavedPlacement : testing::Test {
+    support::TemporaryFolder folder;
+    std::filesystem::path path = folder.path() / "settings" / "nurva-widgets" / "placement.json";
+    std::filesystem::path aside = path.string() + ".bad";
+    std::vector<std::string> reports;
+    PlacementFile file{path, [this](const std::string& text) { reports.push_back(text); }};
+
+    void write(std::string_view text) {
+        folder.write("settings/nurva-widgets/placement.json", text);
+    }
+};
+
+const Placement sample{
+    .widgets = {{"nurva.tuCuarto", 1, desk().identity, 8, 0},
+                {"nurva.volumenPorApp", 2, monitor("«ñ\"/\\", -5, -7, 1, 2).identity, -3, 99}},
+    .windowsExplained = true};
+
+TEST_F(SavedPlacement, ReadsBackTheSame) {
+    for (const Placement& placement : {sample, Placement{}}) {
+        file.save(placement);
+        EXPECT_EQ(file.load(), placement);
+    }
+    EXPECT_THAT(reports, testing::IsEmpty());
+}
+
+TEST_F(SavedPlacement, IsNothingBeforeTheFirstTime) {
+    EXPECT_EQ(file.load(), std::nullopt);
+    EXPECT_THAT(reports, testing::IsEmpty());
+}
+
+TEST_F(SavedPlacement, LeavesNothingElseInItsFolder) {
+    file.save(sample);
+    file.save(Placement{});
+    const std::filesystem::directory_iterator entries(path.parent_path());
+    EXPECT_EQ(std::distance(begin(entries), end(entries)), 1);
+    struct stat status {};
+    ASSERT_EQ(::stat(path.parent_path().c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777, 0700u);
+}
+
+TEST_F(SavedPlacement, ThatMakesNoSenseIsKeptAsideWithAMessage) {
+    const std::string whole = [this] {
+        file.save(sample);
+        return support::contentsOf(path);
+    }();
+    std::vector<std::string> texts{"", "{}", "null", "[1]", "\xff", whole + "}"};
+    for (std::size_t length = 1; length < whole.size(); length += 7)
+        texts.push_back(whole.substr(0, length));
+    for (const char* span : {"0", "-1", "9", "1e300", "\"1\""})
+        texts.push_back(R"({"widgets":[{"kind":"a","span":)" + std::string(span) +
+                        R"(,"monitor":{"connector":"","x":0,"y":0,"width":1,"height":1},)" +
+                        R"("column":0,"row":0}],"windowsExplained":false})");
+    for (const char* column : {"10001", "-9223372036854775808", "0.5"})
+        texts.push_back(R"({"widgets":[{"kind":"a","span":1,"monitor":{"connector":"","x":0,)"
+                        R"("y":0,"width":1,"height":1},"column":)" +
+                        std::string(column) + R"(,"row":0}],"windowsExplained":false})");
+    for (const std::string& text : texts) {
+        reports.clear();
+        write(text);
+        EXPECT_EQ(file.load(), std::nullopt) << text;
+        EXPECT_EQ(support::contentsOf(aside), text);
+        EXPECT_FALSE(std::filesystem::exists(path));
+        EXPECT_THAT(reports, testing::ElementsAre(testing::HasSubstr(aside.string()))) << text;
+    }
+}
+
+TEST_F(SavedPlacement, ThatIsAFolderIsKeptAsideToo) {
+    std::filesystem::create_directories(path / "inside");
+    EXPECT_EQ(file.load(), std::nullopt);
+    EXPECT_TRUE(std::filesystem::is_directory(aside));
+    file.save(sample);
+    EXPECT_EQ(file.load(), sample);
+}
+
+TEST_F(SavedPlacement, ThatCannotBeWrittenIsReported) {
+    folder.write("settings", "a file where a folder should be");
+    file.save(sample);
+    EXPECT_THAT(reports, testing::SizeIs(1));
+}
+
+TEST_F(SavedPlacement, StaysAsItWasWhenTheNewOneCannotTakeItsPlace) {
+    std::filesystem::create_directories(path / "inside");
+    EXPECT_ANY_THROW(writeFileDurably("new", path));
+    const std::filesystem::directory_iterator entries(path.parent_path());
+    EXPECT_EQ(std::distance(begin(entries), end(entries)), 1) << "no temporary file stays";
+}
+
+TEST(PlacementFile, LiesWithTheUsersSettings) {
+    const auto path = [](std::map<std::string, std::string, std::less<>> variables) {
+        return PlacementFile::path(foundation::EnvironmentVariables(std::move(variables)));
+    };
+    EXPECT_EQ(path({{"XDG_CONFIG_HOME", "/c"}, {"HOME", "/h"}}), "/c/nurva-widgets/placement.json");
+    EXPECT_EQ(path({{"HOME", "/h"}}), "/h/.config/nurva-widgets/placement.json");
+    EXPECT_EQ(path({{"XDG_CONFIG_HOME", "relative"}, {"HOME", "/h"}}),
+              "/h/.config/nurva-widgets/placement.json");
+    EXPECT_EQ(path({}), std::nullopt);
+}
+
+}  // namespace
+}  // namespace widgethost
