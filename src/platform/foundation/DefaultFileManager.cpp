@@ -39,13 +39,18 @@ DefaultFileManager::DefaultFileManager(const EnvironmentVariables& variables) {
         containers_ = *data / "group-containers";
 }
 
-std::optional<std::filesystem::path> DefaultFileManager::containerURL(
+std::optional<std::filesystem::path> DefaultFileManager::containerPlace(
     std::string_view groupIdentifier) const {
     if (!containers_ || !namesFolder(groupIdentifier))
         return std::nullopt;
-    std::filesystem::path container = *containers_ / groupIdentifier;
+    return *containers_ / groupIdentifier;
+}
+
+std::optional<std::filesystem::path> DefaultFileManager::containerURL(
+    std::string_view groupIdentifier) const {
+    auto container = containerPlace(groupIdentifier);
     std::error_code ignored;
-    if (!std::filesystem::is_directory(container, ignored))
+    if (!container || !std::filesystem::is_directory(*container, ignored))
         return std::nullopt;
     return container;
 }
@@ -60,9 +65,10 @@ void DefaultFileManager::writeAtomically(std::string_view bytes,
 }
 
 std::filesystem::path DefaultFileManager::createContainer(std::string_view groupIdentifier) const {
-    if (!containers_ || !namesFolder(groupIdentifier))
+    const auto place = containerPlace(groupIdentifier);
+    if (!place)
         throw FileError(ENOENT, std::filesystem::path(groupIdentifier));
-    std::filesystem::path container = *containers_ / groupIdentifier;
+    const std::filesystem::path& container = *place;
     std::error_code error;
     std::filesystem::create_directories(*containers_, error);
     constexpr mode_t userAlone = 0700;

@@ -19,6 +19,9 @@ class DefaultFileManager : public FileManager {
     std::string contents(const std::filesystem::path& path) const override;
     void writeAtomically(std::string_view bytes, const std::filesystem::path& path) const override;
 
+    /// Where the group's container is or would be; nothing for a user without a home.
+    std::optional<std::filesystem::path> containerPlace(std::string_view groupIdentifier) const;
+
     /// The group's container, made for the user alone where there is none. Throws FileError.
     std::filesystem::path createContainer(std::string_view groupIdentifier) const;
 

@@ -18,4 +18,17 @@ std::optional<PropertyList> PropertyList::parse(std::string_view bytes) {
     return parseXMLPropertyList(*text);
 }
 
+std::vector<std::string> PropertyList::strings(std::string_view key) const {
+    std::vector<std::string> strings;
+    const Dictionary* const members = dictionary();
+    const auto found = members ? members->find(key) : Dictionary::const_iterator();
+    const Array* const all = members && found != members->end() ? found->second.array() : nullptr;
+    if (!all)
+        return strings;
+    for (const PropertyList& member : *all)
+        if (const std::string* text = member.string())
+            strings.push_back(*text);
+    return strings;
+}
+
 }  // namespace foundation

@@ -27,6 +27,9 @@ struct PropertyList {
     const Array* array() const { return std::get_if<Array>(&value); }
     const Dictionary* dictionary() const { return std::get_if<Dictionary>(&value); }
 
+    /// The strings of the array that a dictionary holds under a key, without what else is in it.
+    std::vector<std::string> strings(std::string_view key) const;
+
     friend bool operator==(const PropertyList&, const PropertyList&) = default;
 };
 

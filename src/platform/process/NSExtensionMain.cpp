@@ -1,0 +1,87 @@
+#include "platform/process/NSExtensionMain.hpp"
+
+#include "platform/canvas/FontFolders.hpp"
+#include "platform/foundation/Bundle.hpp"
+#include "platform/foundation/DefaultFileManager.hpp"
+#include "platform/foundation/Entitlements.hpp"
+#include "platform/foundation/FileDescriptor.hpp"
+#include "platform/foundation/Message.hpp"
+#include "platform/process/RequestLoop.hpp"
+#include "platform/remote/Protocol.hpp"
+#include "platform/sandbox/Confinement.hpp"
+
+#include <sys/prctl.h>
+#include <sys/socket.h>
+
+#include <csignal>
+#include <iostream>
+#include <span>
+#include <string_view>
+#include <system_error>
+
+namespace process {
+
+namespace {
+
+using foundation::message;
+
+/// More than any face takes; whoever needs more has been given something that is no snapshot.
+#ifdef __SANITIZE_ADDRESS__
+constexpr std::size_t memory = sandbox::Permissions::unlimited;  // the sanitizer's own is shadowed
+#else
+constexpr std::size_t memory = std::size_t{512} << 20;
+#endif
+
+int fail(const std::string& text) {
+    std::cerr << "nurva-widgets-extension: " << text << std::endl;
+    return 1;
+}
+
+bool isSocket(int descriptor) {
+    int type = 0;
+    socklen_t size = sizeof type;
+    return ::getsockopt(descriptor, SOL_SOCKET, SO_TYPE, &type, &size) == 0;
+}
+
+sandbox::Permissions permissions() {
+    const auto variables = foundation::EnvironmentVariables::ofProcess();
+    const auto bundle = foundation::Bundle::main(variables);
+    sandbox::Permissions permissions{.readable = canvas::fontFolders(variables), .memory = memory};
+    permissions.readable.push_back(bundle.path());
+    const foundation::DefaultFileManager files(variables);
+    for (const std::string& group : foundation::Entitlements::of(bundle).applicationGroups)
+        if (const auto container = files.containerURL(group))
+            permissions.writable.push_back(*container);
+    return permissions;
+}
+
+}  // namespace
+
+Extension& principalExtension() {
+    static Extension extension;
+    return extension;
+}
+
+int NSExtensionMain(int argumentCount, char** arguments, int (*programMain)(int, char**)) {
+    const std::span given(arguments, static_cast<std::size_t>(argumentCount));
+    const bool requiresSandbox =
+        given.size() == 2 && given[1] == std::string_view("--require-sandbox");
+    if (!isSocket(remote::protocol::socketDescriptor) || (given.size() > 1 && !requiresSandbox))
+        return fail(message("esto lo arranca el escritorio de widgets; prueba nurva desktop"));
+    foundation::FileDescriptor socket(remote::protocol::socketDescriptor);
+    try {
+        // Nothing waits for a process whose widget host was killed.
+        ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+        const sandbox::Confinement confinement = sandbox::confine(permissions());
+        if (requiresSandbox && !confinement.isComplete())
+            return fail(message("el núcleo no da el aislamiento entero, y sin él no arranca"));
+        if (const int status = programMain(argumentCount, arguments); status != 0)
+            return status;
+        answerRequests(std::move(socket), principalExtension());
+        return 0;
+    } catch (const std::system_error& error) {
+        return fail(message("no se puede seguir: %@", {std::string(error.what())}));
+    }
+}
+
+}  // namespace process
