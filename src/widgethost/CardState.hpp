@@ -1,0 +1,29 @@
+#pragma once
+
+#include "platform/foundation/Date.hpp"
+#include "platform/remote/PictureMemory.hpp"
+#include "widgethost/ExtensionLink.hpp"
+#include "widgethost/Session.hpp"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace widgethost {
+
+/// What the session knows of a card that somebody looks at.
+struct CardState {
+    std::string kind;
+    double scale = 1;
+    Occasion occasion = Occasion::timeline;  // what to ask for next
+    Session::Show show;
+
+    std::optional<remote::PictureMemory> memory;
+    canvas::PixelSize size;
+    std::uint64_t lentTo = 0;  // number of the extension's process that has the memory
+
+    std::optional<foundation::Date> reloadAfter;
+    int stops = 0;  // of the extension, one after the other, while it was asked for this face
+};
+
+}  // namespace widgethost

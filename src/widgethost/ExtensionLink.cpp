@@ -1,0 +1,169 @@
+#include "widgethost/ExtensionLink.hpp"
+
+#include "platform/remote/Protocol.hpp"
+
+#include <systemd/sd-id128.h>
+
+#include <cerrno>
+#include <chrono>
+#include <system_error>
+#include <utility>
+
+namespace widgethost {
+
+namespace {
+
+using remote::check;
+
+constexpr std::chrono::microseconds patience = std::chrono::seconds(5);
+
+struct SlotDeleter {
+    void operator()(sd_bus_slot* slot) const { sd_bus_slot_unref(slot); }
+};
+
+/// Our end of the conversation: the one that sets its terms.
+foundation::SessionBus connected(foundation::FileDescriptor socket) {
+    sd_bus* made = nullptr;
+    check(sd_bus_new(&made));
+    foundation::SessionBus bus(made);
+    const int number = socket.release();
+    check(sd_bus_set_fd(made, number, number));
+    sd_id128_t id;
+    check(sd_id128_randomize(&id));
+    check(sd_bus_set_server(made, true, id));
+    check(sd_bus_set_anonymous(made, true));
+    check(sd_bus_negotiate_fds(made, true));
+    check(sd_bus_start(made));
+    return bus;
+}
+
+const char* member(Occasion occasion) {
+    switch (occasion) {
+        case Occasion::placeholder:
+            return "Placeholder";
+        case Occasion::snapshot:
+            return "Snapshot";
+        case Occasion::timeline:
+            return "Timeline";
+    }
+    return nullptr;
+}
+
+/// Takes an answer apart; nothing where it is an error or makes no sense.
+template <class Read>
+auto understood(sd_bus_message& answer, Read read) -> std::optional<decltype(read(answer))> {
+    if (sd_bus_message_is_method_error(&answer, nullptr) > 0)
+        return std::nullopt;
+    try {
+        return read(answer);
+    } catch (const std::system_error&) {
+        return std::nullopt;
+    }
+}
+
+}  // namespace
+
+struct ExtensionLink::Call {
+    ExtensionLink* link = nullptr;
+    Answer then;
+    std::unique_ptr<sd_bus_slot, SlotDeleter> slot;
+};
+
+ExtensionLink::ExtensionLink(const std::filesystem::path& program, LinkEvents events)
+    : events_(std::move(events)), process_(program) {
+    connection_.emplace(connected(process_.takeSocket()), [this] { end(); });
+    check(sd_bus_add_object(connection_->bus(), nullptr, remote::protocol::path, posted, this));
+}
+
+ExtensionLink::~ExtensionLink() = default;
+
+void ExtensionLink::listWidgets(std::function<void(std::vector<remote::WidgetDescription>)> then) {
+    ask(method("Widgets"), [then = std::move(then)](sd_bus_message& answer) {
+        then(understood(answer, remote::readGallery)
+                 .value_or(std::vector<remote::WidgetDescription>()));
+    });
+}
+
+void ExtensionLink::lend(Slot slot, const remote::PictureMemory& memory) {
+    const remote::Message call = method("Lend");
+    check(sd_bus_message_append(call.get(), "uh", slot, memory.descriptor().number()));
+    send(call);
+}
+
+void ExtensionLink::takeBack(Slot slot) {
+    const remote::Message call = method("Return");
+    check(sd_bus_message_append(call.get(), "u", slot));
+    send(call);
+}
+
+void ExtensionLink::requestFace(Occasion occasion,
+                                const std::string& kind,
+                                double scale,
+                                Slot slot,
+                                std::function<void(std::optional<remote::Face>)> then) {
+    const remote::Message call = method(member(occasion));
+    remote::write(*call, kind);
+    check(sd_bus_message_append(call.get(), "du", scale, slot));
+    ask(call, [then = std::move(then)](sd_bus_message& answer) {
+        then(understood(answer, remote::readFace));
+    });
+}
+
+void ExtensionLink::perform(const intents::ArchivedAction& action, std::function<void()> then) {
+    const remote::Message call = method("Perform");
+    remote::write(*call, action);
+    ask(call, [then = std::move(then)](sd_bus_message&) { then(); });
+}
+
+remote::Message ExtensionLink::method(const char* member) const {
+    sd_bus_message* made = nullptr;
+    check(sd_bus_message_new_method_call(connection_->bus(), &made, nullptr, remote::protocol::path,
+                                         remote::protocol::interface, member));
+    return remote::Message(made);
+}
+
+void ExtensionLink::send(const remote::Message& call) const {
+    // A connection that is gone says so by itself.
+    check(sd_bus_message_set_expect_reply(call.get(), false));
+    sd_bus_send(connection_->bus(), call.get(), nullptr);
+}
+
+void ExtensionLink::ask(const remote::Message& call, Answer then) {
+    Call& made = calls_.emplace_back(Call{.link = this, .then = std::move(then)});
+    sd_bus_slot* slot = nullptr;
+    sd_bus_call_async(connection_->bus(), &slot, call.get(), answered, &made,
+                      static_cast<std::uint64_t>(patience.count()));
+    made.slot.reset(slot);
+}
+
+int ExtensionLink::answered(sd_bus_message* answer, void* data, sd_bus_error*) {
+    Call& call = *static_cast<Call*>(data);
+    ExtensionLink& link = *call.link;
+    const bool isHung = sd_bus_message_is_method_error(answer, SD_BUS_ERROR_NO_REPLY) > 0 ||
+                        sd_bus_message_is_method_error(answer, SD_BUS_ERROR_TIMEOUT) > 0;
+    const Answer then = std::move(call.then);
+    link.calls_.remove_if([&](const Call& other) { return &other == &call; });
+    if (isHung) {
+        link.process_.kill();
+        link.end();
+    } else {
+        then(*answer);
+    }
+    return 1;
+}
+
+int ExtensionLink::posted(sd_bus_message* post, void* data, sd_bus_error*) {
+    if (sd_bus_message_is_method_call(post, remote::protocol::interface, "Post") <= 0)
+        return 0;
+    if (const auto name = understood(*post, remote::readText))
+        static_cast<ExtensionLink*>(data)->events_.onPost(*name);
+    return 1;
+}
+
+void ExtensionLink::end() {
+    const std::function<void()> onClosed = std::exchange(events_.onClosed, {});
+    if (onClosed)
+        onClosed();
+}
+
+}  // namespace widgethost

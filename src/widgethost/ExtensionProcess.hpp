@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/foundation/FileDescriptor.hpp"
+
+#include <sys/types.h>
+
+#include <filesystem>
+
+namespace widgethost {
+
+/// The running program of an extension. Once its socket is closed it ends by itself; its owner's end
+/// waits for that, a little, and then ends it.
+class ExtensionProcess {
+  public:
+    /// Starts the program with one end of a socket of its own. Throws std::system_error.
+    explicit ExtensionProcess(const std::filesystem::path& program);
+    ExtensionProcess(const ExtensionProcess&) = delete;
+    ExtensionProcess& operator=(const ExtensionProcess&) = delete;
+    ~ExtensionProcess();
+
+    /// Our end of the socket. To be taken once.
+    foundation::FileDescriptor takeSocket() { return std::move(socket_); }
+
+    /// Ends it at once.
+    void kill();
+
+  private:
+    foundation::FileDescriptor socket_;
+    pid_t id_ = 0;
+    foundation::FileDescriptor process_;  // readable once it has ended
+};
+
+}  // namespace widgethost

@@ -1,0 +1,246 @@
+#include "widgethost/SessionContents.hpp"
+
+#include "platform/foundation/DefaultFileManager.hpp"
+#include "platform/foundation/Entitlements.hpp"
+
+#include <algorithm>
+#include <utility>
+
+namespace widgethost {
+
+namespace {
+
+/// A timeline that wants to be asked again at once would never let the machine rest.
+constexpr double shortestReload = 1;  // seconds
+
+/// So often the extension stops under a card before the card is given up: once is an accident.
+constexpr int stopsOfACulprit = 2;
+
+/// The files of a container whose change is a reason to ask again.
+std::vector<std::string> reloadFiles(const foundation::Bundle& bundle) {
+    const auto extension = bundle.objectForInfoDictionaryKey("NSExtension");
+    const auto* const members = extension ? extension->dictionary() : nullptr;
+    const auto found = members ? members->find("NSExtensionAttributes")
+                               : foundation::PropertyList::Dictionary::const_iterator();
+    return members && found != members->end() ? found->second.strings("WidgetReloadFiles")
+                                              : std::vector<std::string>();
+}
+
+}  // namespace
+
+Session::Contents::Contents(const SessionOptions& options)
+    : pacing([this](const ReloadPacing::Kinds& kinds) { want(kinds); }),
+      timer_([this] { askWhoIsDue(); }),
+      notifications_(foundation::Entitlements::of(foundation::Bundle::main()).notifications),
+      supervisor_(options.extension,
+                  {.onStarted = [this] { started(); },
+                   .onStopped = [this] { stopped(); },
+                   .onMayStart = [this] { askNext(); },
+                   .onPost = [this](const std::string& name) { post(name); }}) {
+    if (!options.isAlone)
+        center_.emplace([this](const std::string& kind) { pacing.ask(kind); });
+    watchContainers();
+    supervisor_.link();
+}
+
+Session::Contents::Slot Session::Contents::open(std::string kind,
+                                                double scale,
+                                                Occasion occasion,
+                                                Show show) {
+    const Slot slot = nextSlot_++;
+    cards_.emplace(slot, CardState{.kind = std::move(kind),
+                                   .scale = scale,
+                                   .occasion = occasion,
+                                   .show = std::move(show)});
+    want(slot);
+    return slot;
+}
+
+void Session::Contents::close(Slot slot) {
+    if (const CardState& card = cards_.at(slot); card.memory && card.lentTo == supervisor_.number())
+        if (ExtensionLink* const link = supervisor_.running())
+            link->takeBack(slot);
+    cards_.erase(slot);
+    std::erase(waiting_, slot);
+    setTimer();
+}
+
+void Session::Contents::setScale(Slot slot, double scale) {
+    CardState& card = cards_.at(slot);
+    if (card.scale == scale)
+        return;
+    card.scale = scale;
+    card.memory.reset();
+    want(slot);
+}
+
+void Session::Contents::press(Slot slot, const intents::ArchivedAction& action) {
+    if (ExtensionLink* const link = supervisor_.link())
+        link->perform(action, [this, slot] {
+            if (card(slot))
+                want(slot);
+        });
+}
+
+void Session::Contents::want(Slot slot) {
+    if (std::ranges::find(waiting_, slot) == waiting_.end())
+        waiting_.push_back(slot);
+    askNext();
+}
+
+void Session::Contents::want(const ReloadPacing::Kinds& kinds) {
+    for (const auto& [slot, card] : cards_)
+        if (kinds.contains("") || kinds.contains(card.kind))
+            if (std::ranges::find(waiting_, slot) == waiting_.end())
+                waiting_.push_back(slot);
+    // Whoever is known to stop the extension comes last.
+    std::ranges::stable_partition(waiting_, [&](Slot slot) { return cards_.at(slot).stops == 0; });
+    askNext();
+}
+
+void Session::Contents::started() {
+    // No memory can be lent before the first answer: then only is it settled that descriptors pass.
+    supervisor_.running()->listWidgets(
+        [this](std::vector<remote::WidgetDescription> widgets) { take(std::move(widgets)); });
+}
+
+void Session::Contents::take(std::vector<remote::WidgetDescription> widgets) {
+    introduced_ = supervisor_.number();
+    if (widgets != gallery) {
+        gallery = std::move(widgets);
+        if (onGalleryChanged)
+            onGalleryChanged();
+    }
+    askNext();
+}
+
+void Session::Contents::stopped() {
+    if (const auto slot = std::exchange(asked_, std::nullopt)) {
+        supervisor_.blame();
+        if (CardState* const culprit = card(*slot)) {
+            if (++culprit->stops < stopsOfACulprit)
+                waiting_.push_front(*slot);
+            else
+                showStopped(*culprit);
+        }
+    }
+    askNext();
+}
+
+void Session::Contents::askNext() {
+    while (!asked_ && !waiting_.empty()) {
+        ExtensionLink* const link = supervisor_.link();
+        if (!link || introduced_ != supervisor_.number())
+            return;
+        const Slot slot = waiting_.front();
+        waiting_.pop_front();
+        ask(*link, slot);
+    }
+}
+
+void Session::Contents::ask(ExtensionLink& link, Slot slot) {
+    CardState& card = cards_.at(slot);
+    if (!card.memory || card.lentTo != supervisor_.number())
+        lend(link, slot);
+    if (!card.memory)
+        return showStopped(card);
+    asked_ = slot;
+    link.requestFace(card.occasion, card.kind, card.scale, slot,
+                     [this, slot](const std::optional<remote::Face>& face) {
+                         asked_.reset();
+                         answered(slot, face);
+                         askNext();
+                     });
+}
+
+void Session::Contents::lend(ExtensionLink& link, Slot slot) {
+    CardState& card = cards_.at(slot);
+    if (!card.memory) {
+        const auto widget = std::ranges::find(gallery, card.kind, &remote::WidgetDescription::kind);
+        if (widget == gallery.end())
+            return;
+        card.size = canvas::pixelSize(widgets::cardSize(widget->families.front()), card.scale);
+        card.memory = remote::PictureMemory::create(card.size.count());
+    }
+    link.lend(slot, *card.memory);
+    card.lentTo = supervisor_.number();
+}
+
+void Session::Contents::answered(Slot slot, const std::optional<remote::Face>& face) {
+    CardState* const card = this->card(slot);
+    // Closed meanwhile, or of another scale: then it is waiting again.
+    if (!card || !card->memory)
+        return;
+    if (!face)
+        return showStopped(*card);
+    card->stops = 0;
+    card->reloadAfter = face->reloadAfter;
+    if (card->reloadAfter)
+        card->reloadAfter->secondsSinceReferenceDate =
+            std::max(card->reloadAfter->secondsSinceReferenceDate,
+                     clock_.now().addingTimeInterval(shortestReload).secondsSinceReferenceDate);
+    setTimer();
+    if (card->occasion == Occasion::placeholder) {
+        card->occasion = Occasion::snapshot;
+        waiting_.push_back(slot);
+    }
+    card->show({.face = &*face,
+                .scale = card->scale,
+                .pixels = {card->size, card->memory->pixels().first(card->size.count())}});
+}
+
+void Session::Contents::showStopped(CardState& card) {
+    card.reloadAfter.reset();
+    card.show({});
+}
+
+CardState* Session::Contents::card(Slot slot) {
+    const auto found = cards_.find(slot);
+    return found == cards_.end() ? nullptr : &found->second;
+}
+
+void Session::Contents::askWhoIsDue() {
+    const foundation::Date now = clock_.now();
+    std::vector<Slot> due;
+    for (auto& [slot, card] : cards_)
+        if (card.reloadAfter && *card.reloadAfter <= now) {
+            card.reloadAfter.reset();
+            due.push_back(slot);
+        }
+    setTimer();
+    for (const Slot slot : due)
+        want(slot);
+}
+
+void Session::Contents::setTimer() {
+    std::optional<foundation::Date> next;
+    for (const auto& [slot, card] : cards_)
+        if (card.reloadAfter && (!next || *card.reloadAfter < *next))
+            next = card.reloadAfter;
+    timer_.set(next);
+}
+
+void Session::Contents::post(const std::string& name) {
+    if (center_ && std::ranges::find(notifications_, name) != notifications_.end())
+        center_->post(name);
+}
+
+void Session::Contents::watchContainers() {
+    const foundation::Bundle bundle = foundation::Bundle::main();
+    const foundation::DefaultFileManager files;
+    for (const std::string& group : foundation::Entitlements::of(bundle).applicationGroups)
+        if (const auto container = files.containerPlace(group))
+            watches_.emplace_back(*container, reloadFiles(bundle),
+                                  FolderWatch::Events{.onFile = [this] { pacing.ask({}); },
+                                                      .onFolder = [this] { restart(); }});
+}
+
+void Session::Contents::restart() {
+    // What a process may reach is settled when it starts.
+    supervisor_.end();
+    if (const auto slot = std::exchange(asked_, std::nullopt); slot && card(*slot))
+        waiting_.push_front(*slot);
+    pacing.ask({});
+}
+
+}  // namespace widgethost

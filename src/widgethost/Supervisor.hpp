@@ -1,0 +1,55 @@
+#pragma once
+
+#include "widgethost/ExtensionLink.hpp"
+#include "widgethost/MainLoop.hpp"
+#include "widgethost/RateLimit.hpp"
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace widgethost {
+
+/// Keeps a process of the extension at hand: starts it when it is needed, and again after it has
+/// stopped, but not over and over.
+class Supervisor {
+  public:
+    struct Events {
+        std::function<void()> onStarted;
+        std::function<void()> onStopped;   // by itself, or since it was hung
+        std::function<void()> onMayStart;  // what could not start before may now
+        std::function<void(const std::string& name)> onPost;
+    };
+
+    Supervisor(std::filesystem::path program, Events events);
+
+    /// The running extension, started if it is not; null while it may not be started.
+    ExtensionLink* link();
+
+    /// The running extension, or null.
+    ExtensionLink* running() const { return link_.get(); }
+
+    /// Ends the running process; the next one knows of what has changed meanwhile.
+    void end() { link_.reset(); }
+
+    /// Counts a stop for which the extension is to blame, rather than whoever ended it.
+    void blame();
+
+    /// Another number for each process.
+    std::uint64_t number() const { return number_; }
+
+  private:
+    void stopped();
+    void postpone();
+
+    std::filesystem::path program_;
+    Events events_;
+    RateLimit stops_{5, std::chrono::seconds(10)};
+    std::unique_ptr<ExtensionLink> link_;
+    std::uint64_t number_ = 0;
+    Source postponed_;
+};
+
+}  // namespace widgethost

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "estado/EstadoParaWidgets.hpp"
+#include "platform/foundation/DefaultFileManager.hpp"
+#include "support/PrivateSessionBus.hpp"
+#include "support/TemporaryFolder.hpp"
+#include "widgethost/Session.hpp"
+
+#include <sys/types.h>
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// A user's session: a home, a bus, and the container of the group if wanted.
+class Stage {
+  public:
+    Stage();
+    ~Stage();
+    Stage(const Stage&) = delete;
+    Stage& operator=(const Stage&) = delete;
+
+    /// Makes the container and publishes the snapshot, dated now.
+    void publish(nurva::EstadoParaWidgets estado);
+    std::filesystem::path container() const;
+    std::string request() const;
+
+    support::PrivateSessionBus& bus() { return bus_; }
+
+  private:
+    support::TemporaryFolder home_;
+    support::PrivateSessionBus bus_;
+};
+
+/// The first snapshot of the demo host application, which lets its widgets change everything.
+nurva::EstadoParaWidgets music();
+
+/// Lets the main context work until the condition holds. False when it does not in time.
+bool soon(const std::function<bool()>& condition,
+          std::chrono::milliseconds patience = std::chrono::seconds(10));
+
+/// Lets the main context work for a while.
+void letPass(std::chrono::milliseconds time);
+
+widgethost::SessionOptions realExtension();
+
+/// The process of the extension; 0 where none is running.
+pid_t extensionProcess();
+
+/// Somebody who looks at a card, and remembers what was shown.
+struct Viewer {
+    Viewer(widgethost::Session& session,
+           std::string kind,
+           double scale = 2,
+           bool asPreview = false);
+
+    /// The element of this label; throws where there is none.
+    const remote::Element& element(const std::string& label) const;
+    bool shows(const std::string& label) const;
+    void press(const std::string& label);
+
+    int shown = 0;
+    std::optional<remote::Face> face;  // none where the card says that the extension stopped
+    std::vector<std::uint32_t> pixels;
+    canvas::PixelSize size;
+    std::unique_ptr<widgethost::Display> display;
+};

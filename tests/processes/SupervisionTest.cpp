@@ -1,0 +1,119 @@
+#include "processes/Stage.hpp"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+namespace {
+
+using namespace std::chrono_literals;
+using widgethost::Session;
+
+constexpr const char* volume = "nurva.volumenPorApp";
+constexpr const char* room = "nurva.tuCuarto";
+
+/// A snapshot under which the extension cannot go on: a level that is no number of per cent.
+nurva::EstadoParaWidgets unbearable() {
+    nurva::EstadoParaWidgets estado = music();
+    estado.apps.front().nivel = 1e300;
+    estado.apps.front().silenciada = false;
+    return estado;
+}
+
+TEST(Supervision, StartsAnExtensionThatWasKilledWhenItIsNeededAgain) {
+    Stage stage;
+    stage.publish(music());
+    Session session(realExtension());
+    Viewer viewer(session, room);
+    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
+    const pid_t first = extensionProcess();
+    ASSERT_GT(first, 0);
+    ::kill(first, SIGKILL);
+    letPass(50ms);
+    EXPECT_EQ(viewer.shown, 1);
+    viewer.display->press({.identifier = "AlternarEncendido"});
+    ASSERT_TRUE(soon([&] { return viewer.shown == 2; }));
+    EXPECT_TRUE(viewer.face);
+    EXPECT_NE(extensionProcess(), first);
+    EXPECT_FALSE(stage.request().empty());
+}
+
+TEST(Supervision, AsksOnceMoreWhenTheExtensionIsKilledUnderARequest) {
+    Stage stage;
+    stage.publish(music());
+    Session session(realExtension());
+    Viewer viewer(session, room);
+    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
+    ::kill(extensionProcess(), SIGSTOP);
+    session.reload();
+    letPass(20ms);
+    ::kill(extensionProcess(), SIGKILL);
+    EXPECT_TRUE(soon([&] { return viewer.shown == 2 && viewer.face; }));
+}
+
+TEST(Supervision, ShowsTheStoppedCardOnlyWhereTheExtensionStops) {
+    Stage stage;
+    stage.publish(music());
+    Session session(realExtension());
+    Viewer culprit(session, volume);
+    Viewer other(session, room);
+    ASSERT_TRUE(soon([&] { return culprit.shown == 1 && other.shown == 1; }));
+    stage.publish(unbearable());
+    ASSERT_TRUE(soon([&] { return !culprit.face; }));
+    EXPECT_TRUE(soon([&] { return other.shown == 2; }));
+    EXPECT_TRUE(other.face);
+}
+
+TEST(Supervision, HealsWithinASecondOfAGoodSnapshot) {
+    Stage stage;
+    stage.publish(unbearable());
+    Session session(realExtension());
+    Viewer viewer(session, volume);
+    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
+    ASSERT_FALSE(viewer.face);
+    stage.publish(music());
+    EXPECT_TRUE(soon([&] { return viewer.face.has_value(); }, 1s));
+}
+
+TEST(Supervision, DoesNotStartOverAndOver) {
+    Stage stage;
+    stage.publish(unbearable());
+    Session session(realExtension());
+    Viewer viewer(session, volume);
+    int starts = 0;
+    pid_t last = 0;
+    for (int turn = 0; turn < 300; ++turn) {
+        stage.publish(unbearable());
+        letPass(5ms);
+        if (const pid_t now = extensionProcess(); now != 0 && now != last) {
+            last = now;
+            ++starts;
+        }
+    }
+    EXPECT_GE(starts, 2);
+    EXPECT_LE(starts, 6);  // the first, and five more
+    EXPECT_FALSE(viewer.face);
+}
+
+TEST(Supervision, SaysThatAnExtensionCannotBeStarted) {
+    const Stage stage;
+    testing::internal::CaptureStderr();
+    {
+        Session session({.extension = "/nonexistent/extension"});
+        const Viewer viewer(session, room);
+        letPass(20ms);
+        EXPECT_EQ(viewer.shown, 0);
+    }
+    EXPECT_NE(testing::internal::GetCapturedStderr().find("/nonexistent/extension"),
+              std::string::npos);
+}
+
+TEST(Supervision, OutlivesAnExtensionThatSpeaksNonsense) {
+    const Stage stage;
+    Session session({.extension = "/bin/cat"});
+    const Viewer viewer(session, room);
+    letPass(100ms);
+    EXPECT_FALSE(viewer.face);
+}
+
+}  // namespace
