@@ -64,6 +64,9 @@ int run(int argumentCount, const char* const* arguments) {
     addCheckRequest(app);
     addPerform(app);
     addHost(app);
+    addDesktop(app);
+    addReload(app);
+    addDoctor(app);
     for (CLI::App* command : app.get_subcommands({})) {
         command->group(message("Órdenes"));
         addHelp(*command);

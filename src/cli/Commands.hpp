@@ -17,5 +17,8 @@ void addCheck(CLI::App& app);
 void addCheckRequest(CLI::App& app);
 void addPerform(CLI::App& app);
 void addHost(CLI::App& app);
+void addReload(CLI::App& app);
+void addDesktop(CLI::App& app);
+void addDoctor(CLI::App& app);
 
 }  // namespace cli
