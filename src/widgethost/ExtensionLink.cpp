@@ -5,7 +5,6 @@
 #include <systemd/sd-id128.h>
 
 #include <cerrno>
-#include <chrono>
 #include <system_error>
 #include <utility>
 
@@ -14,8 +13,6 @@ namespace widgethost {
 namespace {
 
 using remote::check;
-
-constexpr std::chrono::microseconds patience = std::chrono::seconds(5);
 
 struct SlotDeleter {
     void operator()(sd_bus_slot* slot) const { sd_bus_slot_unref(slot); }
@@ -69,8 +66,10 @@ struct ExtensionLink::Call {
     std::unique_ptr<sd_bus_slot, SlotDeleter> slot;
 };
 
-ExtensionLink::ExtensionLink(const std::filesystem::path& program, LinkEvents events)
-    : events_(std::move(events)), process_(program) {
+ExtensionLink::ExtensionLink(const std::filesystem::path& program,
+                             std::chrono::milliseconds patience,
+                             LinkEvents events)
+    : patience_(patience), events_(std::move(events)), process_(program) {
     connection_.emplace(connected(process_.takeSocket()), [this] { end(); });
     check(sd_bus_add_object(connection_->bus(), nullptr, remote::protocol::path, posted, this));
 }
@@ -132,7 +131,7 @@ void ExtensionLink::ask(const remote::Message& call, Answer then) {
     Call& made = calls_.emplace_back(Call{.link = this, .then = std::move(then)});
     sd_bus_slot* slot = nullptr;
     sd_bus_call_async(connection_->bus(), &slot, call.get(), answered, &made,
-                      static_cast<std::uint64_t>(patience.count()));
+                      static_cast<std::uint64_t>(patience_.count()));
     made.slot.reset(slot);
 }
 

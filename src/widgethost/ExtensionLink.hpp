@@ -8,6 +8,7 @@
 #include "widgethost/BusConnection.hpp"
 #include "widgethost/ExtensionProcess.hpp"
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <list>
@@ -27,12 +28,14 @@ struct LinkEvents {
     std::function<void()> onClosed;
 };
 
-/// The conversation with one process of the extension. An extension that leaves a question
-/// unanswered for five seconds counts as hung, and is done for.
+/// The conversation with one process of the extension. One that leaves a question unanswered for
+/// longer than `patience` counts as hung, and is ended.
 class ExtensionLink {
   public:
     /// Starts the program. Throws std::system_error.
-    ExtensionLink(const std::filesystem::path& program, LinkEvents events);
+    ExtensionLink(const std::filesystem::path& program,
+                  std::chrono::milliseconds patience,
+                  LinkEvents events);
     ~ExtensionLink();
 
     using Slot = std::uint32_t;
@@ -65,6 +68,7 @@ class ExtensionLink {
     static int posted(sd_bus_message* post, void* link, sd_bus_error*);
     void end();
 
+    std::chrono::microseconds patience_;
     LinkEvents events_;
     ExtensionProcess process_;
     std::list<Call> calls_;

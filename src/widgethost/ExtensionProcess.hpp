@@ -8,8 +8,8 @@
 
 namespace widgethost {
 
-/// The running program of an extension. Once its socket is closed it ends by itself; its owner's end
-/// waits for that, a little, and then ends it.
+/// The running program of an extension. Once its socket is closed it ends by itself; its owner's
+/// end waits for that, a little, and then ends it.
 class ExtensionProcess {
   public:
     /// Starts the program with one end of a socket of its own. Throws std::system_error.

@@ -5,6 +5,7 @@
 #include "platform/remote/Face.hpp"
 #include "platform/remote/WidgetDescription.hpp"
 
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -37,6 +38,8 @@ class Display {
 struct SessionOptions {
     std::filesystem::path extension;  // the extension's program
     bool isAlone = false;             // keeps off the session bus
+    /// An extension that leaves a question unanswered for longer counts as hung.
+    std::chrono::milliseconds patience = std::chrono::seconds(5);
 };
 
 /// The widget host without its windows: it keeps the extension running, asks it for faces when they

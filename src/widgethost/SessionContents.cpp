@@ -32,7 +32,7 @@ Session::Contents::Contents(const SessionOptions& options)
     : pacing([this](const ReloadPacing::Kinds& kinds) { want(kinds); }),
       timer_([this] { askWhoIsDue(); }),
       notifications_(foundation::Entitlements::of(foundation::Bundle::main()).notifications),
-      supervisor_(options.extension,
+      supervisor_(options,
                   {.onStarted = [this] { started(); },
                    .onStopped = [this] { stopped(); },
                    .onMayStart = [this] { askNext(); },

@@ -10,8 +10,8 @@ namespace widgethost {
 
 using foundation::message;
 
-Supervisor::Supervisor(std::filesystem::path program, Events events)
-    : program_(std::move(program)), events_(std::move(events)) {}
+Supervisor::Supervisor(const SessionOptions& options, Events events)
+    : program_(options.extension), patience_(options.patience), events_(std::move(events)) {}
 
 ExtensionLink* Supervisor::link() {
     if (link_)
@@ -22,7 +22,8 @@ ExtensionLink* Supervisor::link() {
     }
     try {
         link_ = std::make_unique<ExtensionLink>(
-            program_, LinkEvents{.onPost = events_.onPost, .onClosed = [this] { stopped(); }});
+            program_, patience_,
+            LinkEvents{.onPost = events_.onPost, .onClosed = [this] { stopped(); }});
     } catch (const std::system_error& error) {
         std::cerr << "nurva: "
                   << message("no se puede arrancar la extensión: %@", {std::string(error.what())})

@@ -3,6 +3,7 @@
 #include "widgethost/ExtensionLink.hpp"
 #include "widgethost/MainLoop.hpp"
 #include "widgethost/RateLimit.hpp"
+#include "widgethost/Session.hpp"
 
 #include <cstdint>
 #include <filesystem>
@@ -23,7 +24,7 @@ class Supervisor {
         std::function<void(const std::string& name)> onPost;
     };
 
-    Supervisor(std::filesystem::path program, Events events);
+    Supervisor(const SessionOptions& options, Events events);
 
     /// The running extension, started if it is not; null while it may not be started.
     ExtensionLink* link();
@@ -45,6 +46,7 @@ class Supervisor {
     void postpone();
 
     std::filesystem::path program_;
+    std::chrono::milliseconds patience_;
     Events events_;
     RateLimit stops_{5, std::chrono::seconds(10)};
     std::unique_ptr<ExtensionLink> link_;

@@ -51,6 +51,25 @@ TEST(Supervision, AsksOnceMoreWhenTheExtensionIsKilledUnderARequest) {
     EXPECT_TRUE(soon([&] { return viewer.shown == 2 && viewer.face; }));
 }
 
+TEST(Supervision, EndsAnExtensionThatHangsAndAsksAnother) {
+    Stage stage;
+    stage.publish(music());
+    Session session({.extension = NURVA_EXTENSION, .patience = 200ms});
+    Viewer viewer(session, room);
+    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
+    const pid_t first = extensionProcess();
+    ::kill(first, SIGSTOP);
+    session.reload();
+    EXPECT_TRUE(soon([&] { return viewer.shown == 2; }));
+    EXPECT_TRUE(viewer.face);
+    EXPECT_NE(extensionProcess(), first);
+    ::kill(extensionProcess(), SIGSTOP);
+    viewer.display->press({.identifier = "AlternarEncendido"});
+    letPass(250ms);
+    session.reload();
+    EXPECT_TRUE(soon([&] { return viewer.shown == 3; }));
+}
+
 TEST(Supervision, ShowsTheStoppedCardOnlyWhereTheExtensionStops) {
     Stage stage;
     stage.publish(music());

@@ -1,0 +1,83 @@
+#include "platform/foundation/WriteFile.hpp"
+#include "support/TemporaryFolder.hpp"
+#include "widgethost/FolderWatch.hpp"
+
+#include <glib.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace widgethost {
+namespace {
+
+/// A watch on the folder `a/b` for its file `state`, and what it told of.
+struct Watched : testing::Test {
+    std::filesystem::path folder() const { return above.path() / "a" / "b"; }
+
+    /// What came since the last look.
+    std::pair<int, int> told() {
+        while (g_main_context_iteration(nullptr, FALSE))
+            continue;
+        return {std::exchange(files, 0), std::exchange(folders, 0)};
+    }
+
+    support::TemporaryFolder above;
+    int files = 0;
+    int folders = 0;
+};
+
+/// A watch on the folder, counting for the test.
+FolderWatch watch(Watched& test) {
+    return FolderWatch(test.folder(), {"state"},
+                       {.onFile = [&] { ++test.files; }, .onFolder = [&] { ++test.folders; }});
+}
+
+using Told = std::pair<int, int>;
+
+TEST_F(Watched, TellsOfItsFilesAndOfNoOthers) {
+    std::filesystem::create_directories(folder());
+    const FolderWatch watched = watch(*this);
+    foundation::writeFileAtomically("1", folder() / "state");
+    EXPECT_EQ(told(), Told(1, 0));
+    foundation::writeFileAtomically("2", folder() / "state");
+    EXPECT_EQ(told(), Told(1, 0));
+    foundation::writeFileAtomically("1", folder() / "other");
+    EXPECT_EQ(told(), Told(0, 0));
+    std::filesystem::remove(folder() / "state");
+    EXPECT_EQ(told(), Told(1, 0));
+}
+
+TEST_F(Watched, TellsOfTheFolderWhenItComesHoweverDeep) {
+    const FolderWatch watched = watch(*this);
+    std::filesystem::create_directories(folder());
+    EXPECT_EQ(told(), Told(0, 1));
+    foundation::writeFileAtomically("1", folder() / "state");
+    EXPECT_EQ(told(), Told(1, 0));
+}
+
+TEST_F(Watched, TellsWhenTheFolderGoesAndComesBack) {
+    std::filesystem::create_directories(folder());
+    const FolderWatch watched = watch(*this);
+    std::filesystem::remove_all(folder());
+    EXPECT_EQ(told(), Told(0, 1));
+    std::filesystem::create_directory(folder());
+    EXPECT_EQ(told(), Told(0, 1));
+    std::filesystem::rename(folder(), above.path() / "elsewhere");
+    EXPECT_EQ(told(), Told(0, 1));
+    std::filesystem::rename(above.path() / "elsewhere", folder());
+    EXPECT_EQ(told(), Told(0, 1));
+    foundation::writeFileAtomically("1", folder() / "state");
+    EXPECT_EQ(told(), Told(1, 0));
+}
+
+TEST_F(Watched, FollowsAFolderWhoseParentIsReplaced) {
+    std::filesystem::create_directories(folder());
+    const FolderWatch watched = watch(*this);
+    std::filesystem::remove_all(above.path() / "a");
+    EXPECT_EQ(told(), Told(0, 1));
+    std::filesystem::create_directories(folder());
+    EXPECT_EQ(told(), Told(0, 1));
+}
+
+}  // namespace
+}  // namespace widgethost
