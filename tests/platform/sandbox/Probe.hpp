@@ -12,7 +12,8 @@
 #include <utility>
 #include <vector>
 
-/// What a probe comes to outside of the sandbox, as root, so that its refusal means something.
+/// What a probe comes to outside of the sandbox, as root, so that its refusal means something: it
+/// works, or it does not fail as it does inside.
 enum class Outside { works, answersOtherwise };
 
 /// An attempt to get out. It answers 0 or an error number.
