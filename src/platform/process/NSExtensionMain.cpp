@@ -12,6 +12,7 @@
 
 #include <sys/prctl.h>
 #include <sys/socket.h>
+#include <unistd.h>
 
 #include <csignal>
 #include <iostream>
@@ -29,7 +30,7 @@ using foundation::message;
 #ifdef __SANITIZE_ADDRESS__
 constexpr std::size_t memory = sandbox::Permissions::unlimited;  // the sanitizer's own is shadowed
 #else
-constexpr std::size_t memory = std::size_t{512} << 20;
+constexpr std::size_t memory = std::size_t{256} << 20;
 #endif
 
 int fail(const std::string& text) {
@@ -70,8 +71,10 @@ int NSExtensionMain(int argumentCount, char** arguments, int (*programMain)(int,
         return fail(message("esto lo arranca el escritorio de widgets; prueba nurva desktop"));
     foundation::FileDescriptor socket(remote::protocol::socketDescriptor);
     try {
-        // Nothing waits for a process whose widget host was killed.
+        // Nothing waits for a process whose widget host was killed, and nothing that the widget
+        // host had open is the extension's business.
         ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+        ::close_range(remote::protocol::socketDescriptor + 1, ~0U, 0);
         const sandbox::Confinement confinement = sandbox::confine(permissions());
         if (requiresSandbox && !confinement.isComplete())
             return fail(message("el núcleo no da el aislamiento entero, y sin él no arranca"));
