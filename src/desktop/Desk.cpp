@@ -1,0 +1,266 @@
+#include "desktop/Desk.hpp"
+
+#include "desktop/Explanation.hpp"
+#include "desktop/Zoom.hpp"
+#include "widgethost/Arrangement.hpp"
+
+#include <algorithm>
+#include <utility>
+
+namespace desktop {
+
+using widgethost::Grid;
+using widgethost::PlacedWidget;
+using widgethost::Spot;
+
+Desk::Desk(Surroundings surroundings,
+           WidgetSource& source,
+           Mount& mount,
+           widgethost::PlacementFile file)
+    : surroundings_(std::move(surroundings)),
+      source_(source),
+      mount_(mount),
+      file_(std::move(file)),
+      unitsPerPoint_(unitsPerPoint(surroundings_.display, surroundings_.scale)),
+      monitorsChange_(
+          gdk_display_get_monitors(surroundings_.display),
+          connect<void(unsigned, unsigned, unsigned)>(
+              gdk_display_get_monitors(surroundings_.display),
+              "items-changed",
+              [this](unsigned, unsigned, unsigned) { later_.run([this] { arrange(); }); })),
+      resolutionChanges_(
+          gtk_settings_get_for_display(surroundings_.display),
+          connect<void(GParamSpec*)>(gtk_settings_get_for_display(surroundings_.display),
+                                     "notify::gtk-xft-dpi",
+                                     [this](GParamSpec*) { later_.run([this] { rescale(); }); })) {}
+
+Desk::~Desk() = default;
+
+void Desk::open() {
+    auto remembered = file_.load();
+    isNew_ = !remembered;
+    placement_ = std::move(remembered).value_or(widgethost::Placement{});
+    for (const PlacedWidget& widget : placement_.widgets)
+        putUp(widget);
+    arrange();
+    source_.onGalleryChanged([this] { later_.run([this] { galleryChanged(); }); });
+    galleryChanged();
+    if (!isNew_ && cards_.empty())
+        openGallery();
+    explainWindows();
+}
+
+void Desk::openGallery() {
+    if (!gallery_) {
+        gallery_ = std::make_unique<Gallery>(
+            source_, unitsPerPoint_, mount_.placesWindows(),
+            Gallery::Requests{
+                .add = [this](const std::string& kind) { later_.run([=, this] { add(kind); }); },
+                .remove =
+                    [this](std::size_t index) {
+                        later_.run([this, card = cards_[index].get()] { remove(card); });
+                    },
+                .placeAnew = [this] { later_.run([this] { placeAnew(); }); },
+                .focusCard = [this](int step) { focusNeighbour(nullptr, step); },
+                .close =
+                    [this] {
+                        later_.run([this] {
+                            gallery_.reset();
+                            if (cards_.empty())
+                                surroundings_.onEmpty();
+                        });
+                    },
+            });
+        updateGallery();
+    }
+    gallery_->present();
+}
+
+/// All widgets there are, for a user who has none yet and has not taken them away.
+void Desk::welcome() {
+    std::vector<widgethost::NewWidget> all;
+    for (const remote::WidgetDescription& widget : source_.gallery())
+        all.emplace_back(widget.kind, Grid::span(widgets::cardSize(widget.families.front())));
+    placement_.widgets = tidy(all, screens().monitors);
+    for (const PlacedWidget& widget : placement_.widgets)
+        putUp(widget);
+    isNew_ = false;
+    arrange();
+    remember();
+}
+
+void Desk::galleryChanged() {
+    if (isNew_ && !source_.gallery().empty())
+        welcome();
+    for (std::size_t i = 0; i < cards_.size(); ++i)
+        cards_[i]->setName(nameOf(placement_.widgets[i].kind));
+    if (gallery_)
+        gallery_->showWidgets();
+    updateGallery();
+}
+
+void Desk::putUp(const PlacedWidget& widget) {
+    // The requests name the card that is only about to be made.
+    auto self = std::make_shared<CardWindow*>(nullptr);
+    const auto soon = [this, self](auto act) {
+        return [this, self, act] { later_.run([this, self, act] { (this->*act)(*self); }); };
+    };
+    CardRequests requests{
+        .remove = soon(&Desk::remove),
+        .addWidgets = [this] { later_.run([this] { openGallery(); }); },
+        .placeAnew = [this] { later_.run([this] { placeAnew(); }); },
+        .move = [this, self](widgethost::Direction direction) { move(*self, direction); },
+        .drop = [this, self](views::Point corner) { drop(*self, corner); },
+        .focusNeighbour = [this, self](int step) { focusNeighbour(*self, step); },
+    };
+    cards_.push_back(std::make_unique<CardWindow>(described(widget), unitsPerPoint_, source_,
+                                                  mount_, std::move(requests)));
+    *self = cards_.back().get();
+}
+
+void Desk::add(const std::string& kind) {
+    const auto& all = source_.gallery();
+    const auto found = std::find_if(all.begin(), all.end(),
+                                    [&](const auto& widget) { return widget.kind == kind; });
+    if (found == all.end())
+        return;
+    const Screens now = screens();
+    const auto span = Grid::span(widgets::cardSize(found->families.front()));
+    const auto spot = boardWithout(nullptr, placement_, now.monitors).first(span);
+    if (!spot)
+        return;
+    PlacedWidget& widget =
+        placement_.widgets.emplace_back(PlacedWidget{.kind = kind, .span = span});
+    settle(widget, *spot, now.monitors);
+    putUp(widget);
+    arrange();
+    remember();
+}
+
+void Desk::remove(CardWindow* card) {
+    const std::size_t index = indexOf(card);
+    if (index == cards_.size())
+        return;
+    placement_.widgets.erase(placement_.widgets.begin() + static_cast<std::ptrdiff_t>(index));
+    cards_.erase(cards_.begin() + static_cast<std::ptrdiff_t>(index));
+    arrange();
+    remember();
+    if (cards_.empty() && !gallery_)
+        surroundings_.onEmpty();
+}
+
+void Desk::placeAnew() {
+    std::vector<widgethost::NewWidget> all;
+    for (const PlacedWidget& widget : placement_.widgets)
+        all.emplace_back(widget.kind, widget.span);
+    auto tidied = tidy(all, screens().monitors);
+    // Those for which there is no room stay where they are.
+    std::size_t next = 0;
+    for (PlacedWidget& widget : placement_.widgets)
+        if (next < tidied.size() && tidied[next].kind == widget.kind)
+            widget = tidied[next++];
+    arrange();
+    remember();
+}
+
+void Desk::move(CardWindow* card, widgethost::Direction direction) {
+    const Screens now = screens();
+    const std::size_t index = indexOf(card);
+    PlacedWidget& widget = placement_.widgets[index];
+    const auto from = arranged(placement_, now.monitors)[index];
+    if (!from)
+        return;
+    if (const auto to =
+            boardWithout(&widget, placement_, now.monitors).next(*from, direction, widget.span))
+        settle(widget, *to, now.monitors);
+    arrange();
+    remember();
+}
+
+void Desk::drop(CardWindow* card, views::Point corner) {
+    const Screens now = screens();
+    PlacedWidget& widget = placement_.widgets[indexOf(card)];
+    const views::Point point{corner.x / unitsPerPoint_, corner.y / unitsPerPoint_};
+    if (const auto to = boardWithout(&widget, placement_, now.monitors).nearest(point, widget.span))
+        settle(widget, *to, now.monitors);
+    arrange();
+    remember();
+}
+
+void Desk::focusNeighbour(CardWindow* card, int step) {
+    if (cards_.empty())
+        return;
+    const auto count = static_cast<int>(cards_.size());
+    const auto index = static_cast<int>(indexOf(card));
+    const int before = index < count ? index : step > 0 ? -1 : 0;
+    cards_[static_cast<std::size_t>((before + step + count) % count)]->present();
+}
+
+/// Puts every window where its widget stands now.
+void Desk::arrange() {
+    const Screens now = screens();
+    const widgethost::Board board(now.monitors);
+    const auto spots = arranged(placement_, now.monitors);
+    for (std::size_t i = 0; i < cards_.size(); ++i) {
+        if (!spots[i]) {
+            cards_[i]->hide();
+            continue;
+        }
+        const views::Point point = board.origin(*spots[i]);
+        cards_[i]->stand(now.handles[spots[i]->monitor].get(),
+                         {point.x * unitsPerPoint_, point.y * unitsPerPoint_});
+    }
+    updateGallery();
+}
+
+void Desk::remember() {
+    file_.save(placement_);
+}
+
+void Desk::updateGallery() {
+    if (!gallery_)
+        return;
+    std::vector<std::string> names;
+    for (const PlacedWidget& widget : placement_.widgets)
+        names.push_back(nameOf(widget.kind));
+    gallery_->showPlaced(names);
+}
+
+void Desk::rescale() {
+    unitsPerPoint_ = unitsPerPoint(surroundings_.display, surroundings_.scale);
+    for (const auto& card : cards_)
+        card->setUnitsPerPoint(unitsPerPoint_);
+    arrange();
+}
+
+void Desk::explainWindows() {
+    if (mount_.placesWindows() || std::exchange(placement_.windowsExplained, true))
+        return;
+    showWindowsExplanation();
+    if (!isNew_)
+        remember();
+}
+
+Screens Desk::screens() const {
+    return Screens(surroundings_.display, mount_, unitsPerPoint_);
+}
+
+CardWindow::Widget Desk::described(const PlacedWidget& widget) const {
+    return {.kind = widget.kind, .name = nameOf(widget.kind), .size = Grid::cardSize(widget.span)};
+}
+
+/// What the gallery calls a widget; its kind until the gallery is known.
+std::string Desk::nameOf(const std::string& kind) const {
+    for (const remote::WidgetDescription& widget : source_.gallery())
+        if (widget.kind == kind)
+            return widget.displayName;
+    return kind;
+}
+
+std::size_t Desk::indexOf(CardWindow* card) const {
+    const auto found = std::find_if(cards_.begin(), cards_.end(),
+                                    [&](const auto& one) { return one.get() == card; });
+    return static_cast<std::size_t>(found - cards_.begin());
+}
+
+}  // namespace desktop

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "desktop/Card.hpp"
+#include "desktop/WidgetSource.hpp"
+
+#include <gtk/gtk.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace desktop {
+
+/// The window in which a user chooses what stands on the desktop: the widgets there are, each as it
+/// looks now, and those that have been put up.
+class Gallery {
+  public:
+    struct Requests {
+        std::function<void(const std::string& kind)> add;
+        std::function<void(std::size_t index)> remove;
+        std::function<void()> placeAnew;
+        std::function<void(int)> focusCard;  // the first one, or the last for -1
+        std::function<void()> close;
+    };
+
+    /// Requires that the source outlives it.
+    Gallery(WidgetSource& source, double unitsPerPoint, bool canPlace, Requests requests);
+    Gallery(const Gallery&) = delete;
+    Gallery& operator=(const Gallery&) = delete;
+    ~Gallery();
+
+    void present();
+
+    /// Shows the widgets that the source has now.
+    void showWidgets();
+
+    /// Shows the names of the widgets on the desktop.
+    void showPlaced(const std::vector<std::string>& names);
+
+    GtkWindow* window() const { return window_; }
+
+  private:
+    struct Sample {
+        std::unique_ptr<Card> card;
+        std::unique_ptr<widgethost::Display> display;
+    };
+
+    GtkWidget* offer(const remote::WidgetDescription& widget);
+    GtkWidget* placedRow(std::size_t index);
+    std::size_t focusedRow() const;
+    GtkWidget* sample(const remote::WidgetDescription& widget);
+
+    WidgetSource& source_;
+    double unitsPerPoint_;
+    bool canPlace_;
+    Requests requests_;
+    GtkWindow* window_;
+    GtkWidget* offers_;
+    GtkWidget* placed_;
+    std::vector<Sample> samples_;
+    std::vector<std::string> names_;  // of the placed widgets
+    std::vector<GtkWidget*> removeButtons_;
+};
+
+}  // namespace desktop

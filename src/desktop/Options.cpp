@@ -1,0 +1,84 @@
+#include "desktop/Options.hpp"
+
+#include "platform/foundation/Message.hpp"
+
+#include <glib.h>
+
+#include <memory>
+#include <stdexcept>
+#include <system_error>
+
+namespace desktop {
+
+namespace {
+
+using foundation::message;
+
+constexpr double smallestScale = 0.5;
+constexpr double largestScale = 8;
+
+struct FreeContext {
+    void operator()(GOptionContext* context) const { g_option_context_free(context); }
+};
+
+/// The extension lies beside this program, in the tree where it is built as where it is installed;
+/// where this one is among the user's programs, among those of the system.
+std::filesystem::path extensionBeside(const std::filesystem::path& program) {
+    const std::filesystem::path folder = program.parent_path();
+    const char* name = "nurva-widgets-extension";
+    std::error_code ignored;
+    if (std::filesystem::exists(folder / name, ignored))
+        return folder / name;
+    return folder.parent_path() / "libexec" / "nurva-widgets" / name;
+}
+
+std::filesystem::path ownProgram() {
+    std::error_code ignored;
+    return std::filesystem::read_symlink("/proc/self/exe", ignored);
+}
+
+}  // namespace
+
+Options Options::of(int argumentCount, char** arguments) {
+    gboolean windows = FALSE;
+    gboolean gallery = FALSE;
+    double scale = 0;
+    char* extension = nullptr;
+    const std::string aboutWindows = message("Pone los widgets en ventanas normales");
+    const std::string aboutGallery = message("Abre la galería de widgets");
+    const std::string aboutScale = message("Píxeles por punto, si no valen los de la pantalla");
+    const std::string aboutExtension = message("El programa de la extensión");
+    const std::string number = message("NÚMERO");
+    const std::string file = message("ARCHIVO");
+    const GOptionEntry entries[] = {
+        {"windows", 0, 0, G_OPTION_ARG_NONE, &windows, aboutWindows.c_str(), nullptr},
+        {"gallery", 0, 0, G_OPTION_ARG_NONE, &gallery, aboutGallery.c_str(), nullptr},
+        {"scale", 0, 0, G_OPTION_ARG_DOUBLE, &scale, aboutScale.c_str(), number.c_str()},
+        {"extension", 0, 0, G_OPTION_ARG_FILENAME, &extension, aboutExtension.c_str(),
+         file.c_str()},
+        {},
+    };
+    const std::unique_ptr<GOptionContext, FreeContext> context(g_option_context_new(nullptr));
+    g_option_context_set_summary(context.get(),
+                                 message("Pone los widgets de Nurva en el escritorio").c_str());
+    g_option_context_add_main_entries(context.get(), entries, nullptr);
+    GError* error = nullptr;
+    if (!g_option_context_parse(context.get(), &argumentCount, &arguments, &error)) {
+        const std::string detail = error->message;
+        g_error_free(error);
+        throw std::invalid_argument(message("un valor de la orden no sirve: %@", {detail}));
+    }
+    if (argumentCount > 1)
+        throw std::invalid_argument(
+            message("sobra algo en la orden: %@", {std::string(arguments[1])}));
+    if (scale != 0 && !(scale >= smallestScale && scale <= largestScale))
+        throw std::invalid_argument(message("la escala va de 0.5 a 8"));
+    const std::unique_ptr<char, decltype(&g_free)> path(extension, g_free);
+    Options options{.windows = windows != FALSE, .gallery = gallery != FALSE};
+    if (scale != 0)
+        options.scale = scale;
+    options.extension = path ? std::filesystem::path(path.get()) : extensionBeside(ownProgram());
+    return options;
+}
+
+}  // namespace desktop

@@ -1,0 +1,11 @@
+#include "desktop/Run.hpp"
+#include "desktop/SessionSource.hpp"
+
+#include <memory>
+
+int main(int argumentCount, char** arguments) {
+    return desktop::run(argumentCount, arguments, [](const std::filesystem::path& extension) {
+        return std::make_unique<desktop::SessionSource>(
+            widgethost::SessionOptions{.extension = extension});
+    });
+}

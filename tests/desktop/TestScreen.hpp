@@ -1,0 +1,56 @@
+#pragma once
+
+#include "platform/views/geometry/Geometry.hpp"
+
+#include <gtk/gtk.h>
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace desktop {
+
+/// The screen of the tests, 1280 by 800 pixels with a window manager, for all tests of the process.
+/// GTK is ready for it, and its accessibility is the one that tests can ask.
+namespace screen {
+
+/// Goes on with the main loop until the condition holds; false when it takes more than five
+/// seconds.
+bool waitFor(const std::function<bool()>& condition);
+
+/// Goes on with the main loop until everything that has been asked of the server is done, and every
+/// window has drawn what came of it.
+void settle();
+
+/// A window as the server knows it. (The server's own header is too free with common words.)
+using WindowNumber = unsigned long;
+WindowNumber windowOf(GtkWindow* window);
+WindowNumber rootWindow();
+
+/// The corner of a window on the screen.
+views::Point cornerOf(WindowNumber window);
+views::Point cornerOf(GtkWindow* window);
+
+/// A pixel as it is seen: 0xRRGGBB.
+std::uint32_t pixel(int x, int y);
+
+/// Numbers in a property of a window.
+std::vector<unsigned long> property(WindowNumber window, const char* name);
+bool hasState(WindowNumber window, const char* state);
+
+void movePointer(double x, double y);
+void holdButton(unsigned button = 1);
+void releaseButton(unsigned button = 1);
+void click(double x, double y, unsigned button = 1);
+/// A key by its GDK name, with another one held.
+void pressKey(unsigned key, unsigned modifier = 0);
+
+void holdKey(unsigned key);
+void releaseKey(unsigned key);
+
+/// Gives a window the keyboard.
+void activate(GtkWindow* window);
+
+}  // namespace screen
+}  // namespace desktop
