@@ -17,6 +17,7 @@ struct BusSource {
     sd_bus* bus;
     std::function<void()>* onClosed;
     void* tag;
+    GIOCondition events;
     bool isOpen;
 };
 
@@ -33,7 +34,11 @@ gboolean prepare(GSource* source, int* timeout) {
         return FALSE;
     if (events < 0)
         return TRUE;
-    g_source_modify_unix_fd(source, self.tag, static_cast<GIOCondition>(events));
+    // Each change wakes the context, which would prepare again for ever.
+    if (self.events != static_cast<GIOCondition>(events)) {
+        self.events = static_cast<GIOCondition>(events);
+        g_source_modify_unix_fd(source, self.tag, self.events);
+    }
     std::uint64_t deadline = 0;
     if (sd_bus_get_timeout(self.bus, &deadline) < 0 ||
         deadline == std::numeric_limits<std::uint64_t>::max())
@@ -86,7 +91,8 @@ BusConnection::BusConnection(foundation::SessionBus bus, std::function<void()> o
     BusSource& self = busSource(source_.get());
     self.bus = bus_.get();
     self.onClosed = new std::function<void()>(std::move(onClosed));
-    self.tag = g_source_add_unix_fd(source_.get(), sd_bus_get_fd(bus_.get()), G_IO_IN);
+    self.events = G_IO_IN;
+    self.tag = g_source_add_unix_fd(source_.get(), sd_bus_get_fd(bus_.get()), self.events);
     self.isOpen = true;
     g_source_attach(source_.get(), nullptr);
 }

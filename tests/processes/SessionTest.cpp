@@ -7,9 +7,11 @@
 #include "platform/widgets/WidgetCenter.hpp"
 #include "processes/Stage.hpp"
 
+#include <glib.h>
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 #include <utility>
 
 namespace {
@@ -252,6 +254,40 @@ TEST(Session, OutlivesTheBusAndFindsItAgain) {
         widgets::WidgetCenter::reloadAllTimelines();
         return viewer.shown > 2;
     }));
+}
+
+/// How often this thread has been on a processor because it wanted to.
+long turnsOfThisThread() {
+    std::ifstream status("/proc/thread-self/status");
+    for (std::string line; std::getline(status, line);)
+        if (line.starts_with("voluntary_ctxt_switches:"))
+            return std::stol(line.substr(line.find(':') + 1));
+    return -1;
+}
+
+TEST(Session, WakesNobodyAtRest) {
+    Stage stage;
+    stage.publish(music());
+    Session session(realExtension());
+    const Viewer viewer(session, room);
+    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
+    letPass(300ms);
+    while (g_main_context_iteration(nullptr, FALSE))
+        continue;
+    GSource* const end = g_timeout_source_new(300);
+    bool isOver = false;
+    g_source_set_callback(
+        end, [](void* over) -> gboolean { return *static_cast<bool*>(over) = true; }, &isOver,
+        nullptr);
+    g_source_attach(end, nullptr);
+    const long before = turnsOfThisThread();
+    int iterations = 0;
+    for (; !isOver; ++iterations)
+        g_main_context_iteration(nullptr, TRUE);
+    g_source_destroy(end);
+    g_source_unref(end);
+    EXPECT_LE(iterations, 3);
+    EXPECT_LE(turnsOfThisThread() - before, 3);
 }
 
 }  // namespace
