@@ -40,6 +40,8 @@ struct SessionOptions {
     bool isAlone = false;             // keeps off the session bus
     /// An extension that leaves a question unanswered for longer counts as hung.
     std::chrono::milliseconds patience = std::chrono::seconds(5);
+    /// An extension that nobody has needed for so long is ended: starting it again is quick.
+    std::chrono::milliseconds rest = std::chrono::seconds(60);
 };
 
 /// The widget host without its windows: it keeps the extension running, asks it for faces when they

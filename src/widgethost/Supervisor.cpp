@@ -11,9 +11,13 @@ namespace widgethost {
 using foundation::message;
 
 Supervisor::Supervisor(const SessionOptions& options, Events events)
-    : program_(options.extension), patience_(options.patience), events_(std::move(events)) {}
+    : program_(options.extension),
+      patience_(options.patience),
+      rest_(options.rest),
+      events_(std::move(events)) {}
 
 ExtensionLink* Supervisor::link() {
+    resting_ = after(rest_, [this] { end(); });
     if (link_)
         return link_.get();
     if (stops_.earliest() > Instant::clock::now()) {

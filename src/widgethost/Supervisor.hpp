@@ -14,7 +14,7 @@
 namespace widgethost {
 
 /// Keeps a process of the extension at hand: starts it when it is needed, and again after it has
-/// stopped, but not over and over.
+/// stopped, but not over and over; ends it when it has not been needed for a while.
 class Supervisor {
   public:
     struct Events {
@@ -47,11 +47,13 @@ class Supervisor {
 
     std::filesystem::path program_;
     std::chrono::milliseconds patience_;
+    std::chrono::milliseconds rest_;
     Events events_;
     RateLimit stops_{5, std::chrono::seconds(10)};
     std::unique_ptr<ExtensionLink> link_;
     std::uint64_t number_ = 0;
     Source postponed_;
+    Source resting_;
 };
 
 }  // namespace widgethost

@@ -114,6 +114,21 @@ TEST(Supervision, DoesNotStartOverAndOver) {
     EXPECT_FALSE(viewer.face);
 }
 
+TEST(Supervision, EndsAnExtensionThatNobodyNeedsAndStartsItAgainForAPress) {
+    Stage stage;
+    stage.publish(music());
+    Session session({.extension = NURVA_EXTENSION, .rest = 100ms});
+    Viewer viewer(session, room);
+    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
+    EXPECT_GT(extensionProcess(), 0);
+    ASSERT_TRUE(soon([] { return extensionProcess() == 0; }));
+    EXPECT_EQ(viewer.shown, 1);
+    viewer.display->press({.identifier = "AlternarEncendido"});
+    ASSERT_TRUE(soon([&] { return viewer.shown == 2; }));
+    EXPECT_TRUE(viewer.face);
+    EXPECT_FALSE(stage.request().empty());
+}
+
 TEST(Supervision, SaysThatAnExtensionCannotBeStarted) {
     const Stage stage;
     testing::internal::CaptureStderr();
