@@ -1,0 +1,102 @@
+#include "cli/CommandLine.hpp"
+#include "platform/foundation/SystemClock.hpp"
+
+namespace {
+
+/// What `nurva doctor` says to a user with a session bus of their own.
+struct Doctor : CommandLine {
+    Outcome examine(const std::string& settings = {}) const {
+        return support::run("dbus-run-session -- env -u LANGUAGE -u LC_ALL LANG=es_ES.UTF-8 " +
+                            settings + " XDG_DATA_HOME='" + home.path().string() +
+                            "' " NURVA_PROGRAM " doctor");
+    }
+    void publishNow(double age = 0) const {
+        json fresh = snapshot();
+        fresh["cuando"] = foundation::SystemClock().now().secondsSinceReferenceDate - age;
+        publish(fresh);
+    }
+};
+
+bool says(const Outcome& outcome, const std::string& text) {
+    return outcome.output.find(text) != std::string::npos;
+}
+
+TEST_F(Doctor, FindsNothingWrongWhereAllIsThere) {
+    publishNow();
+    const Outcome outcome = examine("DISPLAY=other-machine:0");
+    EXPECT_EQ(outcome.status, 0) << outcome.output << outcome.errors;
+    EXPECT_TRUE(says(outcome, "✓ contenedor: " + container().string())) << outcome.output;
+    EXPECT_TRUE(says(outcome, "✓ estado: ")) << outcome.output;
+    EXPECT_TRUE(says(outcome, "✓ bus de sesión")) << outcome.output;
+    EXPECT_TRUE(says(outcome, "con 4 widgets")) << outcome.output;
+    EXPECT_TRUE(says(outcome, "✓ pantalla: X11")) << outcome.output;
+    EXPECT_FALSE(says(outcome, "✗")) << outcome.output;
+}
+
+TEST_F(Doctor, SaysWhatIsMissingAndWhatToDo) {
+    std::filesystem::remove_all(container());
+    const Outcome outcome = examine();
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_TRUE(says(outcome, "✗ no existe el contenedor")) << outcome.output;
+    EXPECT_TRUE(says(outcome, "abre Nurva una vez")) << outcome.output;
+    EXPECT_TRUE(says(outcome, "· no hay pantalla")) << outcome.output;
+}
+
+TEST_F(Doctor, TellsWhyASnapshotIsRefused) {
+    json broken = snapshot();
+    broken.erase("salida");
+    publish(broken);
+    const Outcome outcome = examine();
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_TRUE(says(outcome, "keyNotFound")) << outcome.output;
+    EXPECT_TRUE(says(outcome, "salida")) << outcome.output;
+}
+
+TEST_F(Doctor, TellsTheAgeOfASnapshotAndThatItIsTooOld) {
+    publishNow(1800);
+    const Outcome outcome = examine();
+    EXPECT_EQ(outcome.status, 0) << outcome.output;
+    EXPECT_TRUE(says(outcome, "· estado: ")) << outcome.output;
+    EXPECT_TRUE(says(outcome, "de hace 180")) << outcome.output;
+}
+
+TEST_F(Doctor, SeesABundleThatIsNotThereOrNotEntitled) {
+    publishNow();
+    EXPECT_TRUE(says(examine("NURVA_BUNDLE=/nowhere"), "✗ no está el paquete"));
+    const auto other = home.path() / "Other.appex";
+    std::filesystem::create_directory(other);
+    std::filesystem::copy(NURVA_RESOURCES_FOLDER "/NurvaWidgets.appex/Info.plist", other);
+    EXPECT_TRUE(says(examine("NURVA_BUNDLE='" + other.string() + "'"), "no tiene permiso"));
+}
+
+TEST_F(CommandLine, LooksForABusEvenWhereThereIsNone) {
+    const Outcome outcome = support::run(
+        "env -u DBUS_SESSION_BUS_ADDRESS XDG_RUNTIME_DIR=/nowhere LANG=es_ES.UTF-8 "
+        "XDG_DATA_HOME='" +
+        home.path().string() + "' " NURVA_PROGRAM " doctor");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_TRUE(says(outcome, "✗ no hay bus de sesión")) << outcome.output;
+}
+
+TEST_F(CommandLine, SaysThatNoWidgetHostIsThereToReload) {
+    const std::string run = "dbus-run-session -- env LANG=es_ES.UTF-8 " NURVA_PROGRAM " reload";
+    const Outcome all = support::run(run);
+    EXPECT_EQ(all.status, 1);
+    EXPECT_NE(all.errors.find("nurva desktop"), std::string::npos) << all.errors;
+    EXPECT_EQ(support::run(run + " nurva.tuCuarto").status, 1);
+    EXPECT_EQ(support::run(run + " nurva.otro").status, 2);
+    EXPECT_EQ(support::run("env -u DBUS_SESSION_BUS_ADDRESS XDG_RUNTIME_DIR=/nowhere " NURVA_PROGRAM
+                           " reload")
+                  .status,
+              1);
+}
+
+TEST_F(CommandLine, OpensNoDesktopWithoutADisplay) {
+    const Outcome outcome =
+        support::run("env -u DISPLAY -u WAYLAND_DISPLAY LANG=es_ES.UTF-8 HOME='" +
+                     home.path().string() + "' " NURVA_PROGRAM " desktop");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_NE(outcome.errors.find("no hay pantalla"), std::string::npos) << outcome.errors;
+}
+
+}  // namespace
