@@ -24,18 +24,12 @@ CardWindow::CardWindow(const Widget& widget,
             [this](const intents::ArchivedAction& action) { display_->press(action); }),
       menu_(card_.widget(), requests_, mount.placesWindows()) {
     gtk_window_set_resizable(window_, FALSE);
-    gtk_widget_add_css_class(GTK_WIDGET(window_), "nurva-card-window");
     gtk_window_set_child(window_, card_.widget());
     setName(widget.name);
     card_.setUnitsPerPoint(unitsPerPoint_);
     mount_.prepare(window_);
     if (mount_.placesWindows())
-        drag_.emplace(card_, mount_,
-                      CardDrag::Actions{
-                          .place = [this] { return place_; },
-                          .carry = [this](views::Point to) { mount_.move(window_, monitor_, to); },
-                          .drop = requests_.drop,
-                      });
+        standFree();
     listen();
     display_ = source_.display(widget.kind, scale_,
                                [this](const widgethost::Shown& shown) { card_.show(shown); });
@@ -45,6 +39,17 @@ CardWindow::~CardWindow() {
     display_.reset();
     compositor_.reset();
     gtk_window_destroy(window_);
+}
+
+/// Leaves of the window only the card, which can be carried about.
+void CardWindow::standFree() {
+    gtk_widget_add_css_class(GTK_WIDGET(window_), "nurva-card-window");
+    drag_.emplace(card_, mount_,
+                  CardDrag::Actions{
+                      .place = [this] { return place_; },
+                      .carry = [this](views::Point to) { mount_.move(window_, monitor_, to); },
+                      .drop = requests_.drop,
+                  });
 }
 
 void CardWindow::listen() {

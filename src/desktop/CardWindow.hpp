@@ -49,6 +49,7 @@ class CardWindow {
     GtkWindow* window() const { return window_; }
 
   private:
+    void standFree();
     void listen();
     bool press(unsigned key, GdkModifierType modifiers);
     void openMenu(std::optional<views::Point> at);

@@ -4,6 +4,7 @@
 
 #include <glib.h>
 
+#include <limits>
 #include <memory>
 #include <stdexcept>
 #include <system_error>
@@ -16,6 +17,7 @@ using foundation::message;
 
 constexpr double smallestScale = 0.5;
 constexpr double largestScale = 8;
+constexpr double notGiven = -std::numeric_limits<double>::infinity();
 
 struct FreeContext {
     void operator()(GOptionContext* context) const { g_option_context_free(context); }
@@ -42,7 +44,7 @@ std::filesystem::path ownProgram() {
 Options Options::of(int argumentCount, char** arguments) {
     gboolean windows = FALSE;
     gboolean gallery = FALSE;
-    double scale = 0;
+    double scale = notGiven;
     char* extension = nullptr;
     const std::string aboutWindows = message("Pone los widgets en ventanas normales");
     const std::string aboutGallery = message("Abre la galería de widgets");
@@ -71,11 +73,11 @@ Options Options::of(int argumentCount, char** arguments) {
     if (argumentCount > 1)
         throw std::invalid_argument(
             message("sobra algo en la orden: %@", {std::string(arguments[1])}));
-    if (scale != 0 && !(scale >= smallestScale && scale <= largestScale))
+    if (scale != notGiven && !(scale >= smallestScale && scale <= largestScale))
         throw std::invalid_argument(message("la escala va de 0.5 a 8"));
     const std::unique_ptr<char, decltype(&g_free)> path(extension, g_free);
     Options options{.windows = windows != FALSE, .gallery = gallery != FALSE};
-    if (scale != 0)
+    if (scale != notGiven)
         options.scale = scale;
     options.extension = path ? std::filesystem::path(path.get()) : extensionBeside(ownProgram());
     return options;

@@ -12,13 +12,13 @@ namespace {
 constexpr const char* style = R"(
 window.nurva-card-window { background: none; box-shadow: none; border-radius: 0; }
 nurva-control { border-radius: 7px; }
-nurva-control:focus-visible {
+nurva-control:focus:focus-visible {
     outline: 2px solid white;
     outline-offset: 0;
     box-shadow: 0 0 0 4px rgba(0, 0, 0, 0.7);
 }
 nurva-card { border-radius: 28px; }
-nurva-card:focus-visible { outline: 2px solid white; outline-offset: -5px; }
+nurva-card:focus:focus-visible { outline: 2px solid white; outline-offset: -5px; }
 .nurva-stopped { color: #e8ebec; margin: 12px; }
 .nurva-stopped-title { font-weight: 600; font-size: 12px; }
 .nurva-stopped-line { color: #98a0a4; font-size: 11px; }

@@ -204,8 +204,10 @@ TEST_F(CardOnScreen, ARingShowsWhereTheKeyboardIs) {
         screen::pressKey(GDK_KEY_Tab);
     ASSERT_EQ(focused(), "Mute");
     EXPECT_TRUE(isSeen(70, 99, 0xFFFFFF));
+    EXPECT_TRUE(isSeen(4, 85, 4 << 16 | 85 << 8 | 0x80)) << "and not around the card";
     screen::pressKey(GDK_KEY_Tab);
     EXPECT_TRUE(isSeen(70, 99, 70 << 16 | 99 << 8 | 0x80)) << "and goes with it";
+    EXPECT_TRUE(isSeen(4, 85, 0xFFFFFF)) << "around the card";
 }
 
 TEST_F(CardOnScreen, ChangesInPlace) {
