@@ -66,10 +66,10 @@ struct ExtensionLink::Call {
     std::unique_ptr<sd_bus_slot, SlotDeleter> slot;
 };
 
-ExtensionLink::ExtensionLink(const std::filesystem::path& program,
-                             std::chrono::milliseconds patience,
-                             LinkEvents events)
-    : patience_(patience), events_(std::move(events)), process_(program) {
+ExtensionLink::ExtensionLink(const SessionOptions& options, LinkEvents events)
+    : patience_(options.patience),
+      events_(std::move(events)),
+      process_(options.extension, options.requiresSandbox) {
     connection_.emplace(connected(process_.takeSocket()), [this] { end(); });
     check(sd_bus_add_object(connection_->bus(), nullptr, remote::protocol::path, posted, this));
 }

@@ -7,6 +7,7 @@
 #include "platform/remote/Wire.hpp"
 #include "widgethost/BusConnection.hpp"
 #include "widgethost/ExtensionProcess.hpp"
+#include "widgethost/Session.hpp"
 
 #include <chrono>
 #include <cstdint>
@@ -29,13 +30,11 @@ struct LinkEvents {
 };
 
 /// The conversation with one process of the extension. One that leaves a question unanswered for
-/// longer than `patience` counts as hung, and is ended.
+/// longer than the options' patience counts as hung, and is ended.
 class ExtensionLink {
   public:
     /// Starts the program. Throws std::system_error.
-    ExtensionLink(const std::filesystem::path& program,
-                  std::chrono::milliseconds patience,
-                  LinkEvents events);
+    ExtensionLink(const SessionOptions& options, LinkEvents events);
     ~ExtensionLink();
 
     using Slot = std::uint32_t;

@@ -49,7 +49,7 @@ std::vector<char*> pointers(std::vector<std::string>& texts) {
 
 }  // namespace
 
-ExtensionProcess::ExtensionProcess(const std::filesystem::path& program) {
+ExtensionProcess::ExtensionProcess(const std::filesystem::path& program, bool requiresSandbox) {
     int ends[2];
     if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0, ends) != 0)
         fail(errno, "socketpair");
@@ -57,6 +57,8 @@ ExtensionProcess::ExtensionProcess(const std::filesystem::path& program) {
     const foundation::FileDescriptor theirs(ends[1]);
 
     std::vector<std::string> arguments{program.string()};
+    if (requiresSandbox)
+        arguments.emplace_back("--require-sandbox");
     std::vector<std::string> environment = variables();
     posix_spawn_file_actions_t actions;
     posix_spawnattr_t attributes;
@@ -79,11 +81,18 @@ ExtensionProcess::ExtensionProcess(const std::filesystem::path& program) {
 }
 
 ExtensionProcess::~ExtensionProcess() {
+    if (id_ > 0)
+        end();
+}
+
+int ExtensionProcess::end() {
     socket_ = {};
     pollfd ended{.fd = process_.number(), .events = POLLIN, .revents = 0};
     if (::poll(&ended, 1, patience) != 1)
         kill();
-    ::waitpid(id_, nullptr, 0);
+    int status = 0;
+    ::waitpid(std::exchange(id_, 0), &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
 }
 
 void ExtensionProcess::kill() {

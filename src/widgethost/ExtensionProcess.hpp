@@ -13,7 +13,7 @@ namespace widgethost {
 class ExtensionProcess {
   public:
     /// Starts the program with one end of a socket of its own. Throws std::system_error.
-    explicit ExtensionProcess(const std::filesystem::path& program);
+    explicit ExtensionProcess(const std::filesystem::path& program, bool requiresSandbox = false);
     ExtensionProcess(const ExtensionProcess&) = delete;
     ExtensionProcess& operator=(const ExtensionProcess&) = delete;
     ~ExtensionProcess();
@@ -23,6 +23,10 @@ class ExtensionProcess {
 
     /// Ends it at once.
     void kill();
+
+    /// Closes our end of the socket where it was not taken, and waits for the process's end as its
+    /// owner's end does. Its exit status; 128 and more is a signal. To be called once.
+    int end();
 
   private:
     foundation::FileDescriptor socket_;

@@ -38,6 +38,7 @@ class Display {
 struct SessionOptions {
     std::filesystem::path extension;  // the extension's program
     bool isAlone = false;             // keeps off the session bus
+    bool requiresSandbox = false;     // wants no extension that the kernel does not wholly confine
     /// An extension that leaves a question unanswered for longer counts as hung.
     std::chrono::milliseconds patience = std::chrono::seconds(5);
     /// An extension that nobody has needed for so long is ended: starting it again is quick.

@@ -10,14 +10,11 @@ namespace widgethost {
 
 using foundation::message;
 
-Supervisor::Supervisor(const SessionOptions& options, Events events)
-    : program_(options.extension),
-      patience_(options.patience),
-      rest_(options.rest),
-      events_(std::move(events)) {}
+Supervisor::Supervisor(SessionOptions options, Events events)
+    : options_(std::move(options)), events_(std::move(events)) {}
 
 ExtensionLink* Supervisor::link() {
-    resting_ = after(rest_, [this] { end(); });
+    resting_ = after(options_.rest, [this] { end(); });
     if (link_)
         return link_.get();
     if (stops_.earliest() > Instant::clock::now()) {
@@ -26,8 +23,7 @@ ExtensionLink* Supervisor::link() {
     }
     try {
         link_ = std::make_unique<ExtensionLink>(
-            program_, patience_,
-            LinkEvents{.onPost = events_.onPost, .onClosed = [this] { stopped(); }});
+            options_, LinkEvents{.onPost = events_.onPost, .onClosed = [this] { stopped(); }});
     } catch (const std::system_error& error) {
         std::cerr << "nurva: "
                   << message("no se puede arrancar la extensión: %@", {std::string(error.what())})

@@ -6,7 +6,6 @@
 #include "widgethost/Session.hpp"
 
 #include <cstdint>
-#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string>
@@ -24,7 +23,7 @@ class Supervisor {
         std::function<void(const std::string& name)> onPost;
     };
 
-    Supervisor(const SessionOptions& options, Events events);
+    Supervisor(SessionOptions options, Events events);
 
     /// The running extension, started if it is not; null while it may not be started.
     ExtensionLink* link();
@@ -45,9 +44,7 @@ class Supervisor {
     void stopped();
     void postpone();
 
-    std::filesystem::path program_;
-    std::chrono::milliseconds patience_;
-    std::chrono::milliseconds rest_;
+    SessionOptions options_;
     Events events_;
     RateLimit stops_{5, std::chrono::seconds(10)};
     std::unique_ptr<ExtensionLink> link_;

@@ -71,7 +71,7 @@ bool saysClosed(const std::system_error& fault) {
 
 }  // namespace
 
-void answerRequests(foundation::FileDescriptor socket, const Extension& extension) {
+void answerRequests(foundation::FileDescriptor socket, const Extension& extension) try {
     const foundation::SessionBus bus = connected(std::move(socket));
     LoopTasks tasks;
     const ForwardedNotifications notifications([&](std::string name) {
@@ -82,16 +82,14 @@ void answerRequests(foundation::FileDescriptor socket, const Extension& extensio
                                               process.mainBundle, process.locale};
     ExtensionService service(extension, environment, tasks);
     check(sd_bus_add_object(bus.get(), nullptr, remote::protocol::path, answer, &service));
-    try {
-        while (true) {
-            tasks.run();
-            if (check(sd_bus_process(bus.get(), nullptr)) == 0)
-                wait(*bus, tasks);
-        }
-    } catch (const std::system_error& fault) {
-        if (!saysClosed(fault))
-            throw;
+    while (true) {
+        tasks.run();
+        if (check(sd_bus_process(bus.get(), nullptr)) == 0)
+            wait(*bus, tasks);
     }
+} catch (const std::system_error& fault) {
+    if (!saysClosed(fault))
+        throw;
 }
 
 }  // namespace process
