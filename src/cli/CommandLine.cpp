@@ -67,10 +67,14 @@ int run(int argumentCount, const char* const* arguments) {
     addDesktop(app);
     addReload(app);
     addDoctor(app);
+    addCompletions(app);
     for (CLI::App* command : app.get_subcommands({})) {
         command->group(message("Órdenes"));
         addHelp(*command);
     }
+    // For those who package, not for the help.
+    addManual(app);
+    app.get_subcommand("manual")->group("");
     try {
         app.parse(argumentCount, arguments);
         return static_cast<int>(ExitStatus::done);

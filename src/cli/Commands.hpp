@@ -20,5 +20,7 @@ void addHost(CLI::App& app);
 void addReload(CLI::App& app);
 void addDesktop(CLI::App& app);
 void addDoctor(CLI::App& app);
+void addCompletions(CLI::App& app);
+void addManual(CLI::App& app);
 
 }  // namespace cli
