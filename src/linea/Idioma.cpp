@@ -32,7 +32,7 @@ void Idioma::fijar(const std::optional<std::string>& idioma) {
 }
 
 std::string Idioma::texto(std::string_view clave,
-                          const std::vector<foundation::FormatArgument>& argumentos) {
+                          std::initializer_list<foundation::FormatArgument> argumentos) {
     return foundation::localizedString(clave, paquete(), views::buildEnvironment().locale,
                                        argumentos);
 }

@@ -3,10 +3,10 @@
 #include "platform/foundation/Bundle.hpp"
 #include "platform/foundation/FormatArgument.hpp"
 
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 /// The language of the widgets' texts, which the host application's user may choose apart from the
 /// system's. One value for the process: each view build sets it before it looks up a text, and view
@@ -22,6 +22,6 @@ void fijar(const std::optional<std::string>& idioma);
 
 /// The text for a key in the chosen bundle, with its arguments in the current locale's form.
 std::string texto(std::string_view clave,
-                  const std::vector<foundation::FormatArgument>& argumentos = {});
+                  std::initializer_list<foundation::FormatArgument> argumentos = {});
 
 }  // namespace nurva::Idioma

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
+#include <memory_resource>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -11,8 +13,6 @@ namespace canvas {
 /// The first value names the kind of key, which fixes the types that follow; a text comes last.
 class Key {
   public:
-    Key() { bytes_.reserve(usualLength); }
-
     template <class Number>
     requires std::is_arithmetic_v<Number> || std::is_enum_v<Number> Key& operator<<(Number number) {
         bytes_.append(reinterpret_cast<const char*>(&number), sizeof number);
@@ -25,8 +25,10 @@ class Key {
     std::string_view bytes() const { return bytes_; }
 
   private:
-    static constexpr std::size_t usualLength = 96;
-    std::string bytes_;
+    static constexpr std::size_t usualLength = 128;
+    std::array<std::byte, usualLength> buffer_;
+    std::pmr::monotonic_buffer_resource memory_{buffer_.data(), buffer_.size()};
+    std::pmr::string bytes_{&memory_};
 };
 
 }  // namespace canvas

@@ -19,14 +19,20 @@ constexpr int mostSpecifiers = 256;
 
 class Expansion {
   public:
-    Expansion(const LocalizedFormat& format,
+    using Variables = decltype(LocalizedFormat::variables);
+
+    Expansion(const Variables& variables,
               std::span<const FormatArgument> arguments,
               const Locale& locale,
               std::string_view language)
-        : format_(format), arguments_(arguments), locale_(locale), language_(language) {}
+        : variables_(variables), arguments_(arguments), locale_(locale), language_(language) {}
 
-    std::string result() {
-        expand(format_.text, 0);
+    std::optional<std::string> result(std::string_view format) {
+        try {
+            expand(format, 0);
+        } catch (const Misfit&) {
+            return std::nullopt;
+        }
         return std::move(result_);
     }
 
@@ -111,8 +117,8 @@ class Expansion {
     }
 
     std::string_view wording(std::string_view name, std::int64_t number) const {
-        const auto variable = format_.variables.find(name);
-        if (variable == format_.variables.end())
+        const auto variable = variables_.find(name);
+        if (variable == variables_.end())
             throw Misfit{};
         const LocalizedFormat::Wordings& wordings = variable->second;
         auto found = wordings.find(pluralCategory(number, language_));
@@ -123,7 +129,7 @@ class Expansion {
         return found->second;
     }
 
-    const LocalizedFormat& format_;
+    const Variables& variables_;
     std::span<const FormatArgument> arguments_;
     const Locale& locale_;
     std::string_view language_;
@@ -137,11 +143,14 @@ std::optional<std::string> expandedFormat(const LocalizedFormat& format,
                                           std::span<const FormatArgument> arguments,
                                           const Locale& locale,
                                           std::string_view language) {
-    try {
-        return Expansion(format, arguments, locale, language).result();
-    } catch (const Misfit&) {
-        return std::nullopt;
-    }
+    return Expansion(format.variables, arguments, locale, language).result(format.text);
+}
+
+std::optional<std::string> expandedFormat(std::string_view format,
+                                          std::span<const FormatArgument> arguments,
+                                          const Locale& locale) {
+    static const LocalizedFormat none;
+    return Expansion(none.variables, arguments, locale, {}).result(format);
 }
 
 }  // namespace foundation

@@ -20,4 +20,9 @@ std::optional<std::string> expandedFormat(const LocalizedFormat& format,
                                           const Locale& locale,
                                           std::string_view language);
 
+/// The same of a format without variables.
+std::optional<std::string> expandedFormat(std::string_view format,
+                                          std::span<const FormatArgument> arguments,
+                                          const Locale& locale);
+
 }  // namespace foundation

@@ -14,8 +14,25 @@ namespace foundation {
 template <typename Object>
 class LocaleObjects {
   public:
+    /// The object of a locale, or null where none can be made. It stays until this thread asks for
+    /// another one of its type.
     template <typename Make>
-    std::shared_ptr<const Object> object(const std::string& locale, Make make) {
+    const Object* object(const std::string& locale, Make make) {
+        thread_local Last last;
+        if (last.owner != this || last.locale != locale)
+            last = {this, locale, shared(locale, make)};
+        return last.object.get();
+    }
+
+  private:
+    struct Last {
+        const LocaleObjects* owner = nullptr;
+        std::string locale;
+        std::shared_ptr<const Object> object;
+    };
+
+    template <typename Make>
+    std::shared_ptr<const Object> shared(const std::string& locale, Make make) {
         const std::lock_guard lock(mutex_);
         if (const auto found = objects_.find(locale); found != objects_.end())
             return found->second;
@@ -24,7 +41,6 @@ class LocaleObjects {
         return objects_.emplace(locale, make(locale)).first->second;
     }
 
-  private:
     static constexpr std::size_t maximumCount = 16;
 
     std::mutex mutex_;

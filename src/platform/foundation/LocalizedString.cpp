@@ -7,7 +7,7 @@ namespace foundation {
 std::string localizedString(std::string_view key,
                             const Bundle& bundle,
                             const Locale& locale,
-                            const std::vector<FormatArgument>& arguments) {
+                            std::span<const FormatArgument> arguments) {
     const StringsTable& table = bundle.localizedTable();
     const LocalizedFormat* entry = table.entry(key);
     if (arguments.empty())
@@ -16,8 +16,9 @@ std::string localizedString(std::string_view key,
         if (auto text = expandedFormat(*entry, arguments, locale, table.language()))
             return *std::move(text);
     }
-    const LocalizedFormat itself{.text = std::string(key)};
-    return expandedFormat(itself, arguments, locale, table.language()).value_or(itself.text);
+    if (auto text = expandedFormat(key, arguments, locale))
+        return *std::move(text);
+    return std::string(key);
 }
 
 }  // namespace foundation

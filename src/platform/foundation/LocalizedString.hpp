@@ -4,9 +4,9 @@
 #include "platform/foundation/FormatArgument.hpp"
 #include "platform/foundation/Locale.hpp"
 
+#include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace foundation {
 
@@ -16,6 +16,6 @@ namespace foundation {
 std::string localizedString(std::string_view key,
                             const Bundle& bundle,
                             const Locale& locale,
-                            const std::vector<FormatArgument>& arguments = {});
+                            std::span<const FormatArgument> arguments = {});
 
 }  // namespace foundation

@@ -85,7 +85,7 @@ std::string localizedDecimal(double number, int fractionDigits, const Locale& lo
                 .precision(icu::number::Precision::fixedFraction(fractionDigits))
                 .roundingMode(UNUM_ROUND_HALFEVEN));
     };
-    const auto formatter =
+    const Formatter* const formatter =
         known.at(static_cast<std::size_t>(fractionDigits)).object(locale.identifier, make);
     UErrorCode code = U_ZERO_ERROR;
     return text(formatter->formatDouble(number, code), code);

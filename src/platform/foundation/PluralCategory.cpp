@@ -22,7 +22,7 @@ std::shared_ptr<const icu::PluralRules> makeRules(const std::string& language) {
 
 std::string pluralCategory(std::int64_t number, std::string_view language) {
     static LocaleObjects<icu::PluralRules> known;
-    const auto rules = known.object(std::string(language), makeRules);
+    const icu::PluralRules* const rules = known.object(std::string(language), makeRules);
     if (!rules)
         return "other";
     std::string category;

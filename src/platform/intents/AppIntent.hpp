@@ -54,7 +54,7 @@ ArchivedAction archived(Intent intent) {
     std::apply(
         [&](const auto&... key) {
             action.parameters.reserve(sizeof...(key));
-            (action.parameters.emplace_back(std::string(key.name),
+            (action.parameters.emplace_back(key.name,
                                             std::move((intent.*key.member).value).value()),
              ...);
         },
