@@ -1,12 +1,23 @@
 #include "platform/views/layout/LayoutContext.hpp"
 
-#include "platform/views/view/View.hpp"
-
+#include <bit>
 #include <cmath>
-#include <functional>
+#include <cstdint>
 #include <utility>
 
 namespace views {
+
+namespace {
+
+/// A hash and a length in one; the standard one of a length takes longer than many a layout.
+std::size_t mixed(std::size_t hash, double length) {
+    constexpr std::uint64_t oddConstant = 0x9E3779B97F4A7C15;
+    // Both zeros have one hash, as they are equal.
+    const std::uint64_t product = (hash ^ std::bit_cast<std::uint64_t>(length + 0.0)) * oddConstant;
+    return product ^ (product >> 32);
+}
+
+}  // namespace
 
 LayoutContext::LayoutContext(const TextMeasurer& measurer, double scale)
     : text(measurer), pixel(1 / scale) {}
@@ -45,21 +56,19 @@ const TextLayout& LayoutContext::remember(const void* theText,
 }
 
 const View& LayoutContext::keep(View view) {
-    return *kept_.emplace_back(std::make_unique<const View>(std::move(view)));
+    return kept_.emplace_front(std::move(view));
 }
 
 std::size_t LayoutContext::Hash::operator()(const StackKey& key) const {
     // An absent length hashes like one that no parent offers.
     constexpr double absent = -1;
-    std::size_t hash = std::hash<const void*>{}(key.stack);
-    for (const auto& length : {key.proposal.width, key.proposal.height})
-        hash = hash * 31 + std::hash<double>{}(length.value_or(absent));
-    return hash;
+    const std::size_t hash =
+        mixed(std::bit_cast<std::uintptr_t>(key.stack), key.proposal.width.value_or(absent));
+    return mixed(hash, key.proposal.height.value_or(absent));
 }
 
 std::size_t LayoutContext::Hash::operator()(const TextKey& key) const {
-    return (std::hash<const void*>{}(key.text) * 31 + std::hash<double>{}(key.width)) * 31 +
-           key.lines;
+    return mixed(std::bit_cast<std::uintptr_t>(key.text) + key.lines, key.width);
 }
 
 }  // namespace views

@@ -3,17 +3,15 @@
 #include "platform/views/layout/StackLayout.hpp"
 #include "platform/views/text/TextLayout.hpp"
 #include "platform/views/text/TextMeasurer.hpp"
+#include "platform/views/view/View.hpp"
 
 #include <array>
 #include <cstddef>
-#include <memory>
+#include <forward_list>
 #include <memory_resource>
 #include <unordered_map>
-#include <vector>
 
 namespace views {
-
-class View;
 
 /// What one layout pass knows: the text engine, the size of a pixel, and what its stacks and texts
 /// have already worked out, since each is asked for the same offer several times.
@@ -70,7 +68,7 @@ class LayoutContext {
     std::pmr::monotonic_buffer_resource memory_{buffer_.data(), buffer_.size()};
     std::pmr::unordered_map<StackKey, StackLayout, Hash> stacks_{&memory_};
     std::pmr::unordered_map<TextKey, TextLayout, Hash> texts_{&memory_};
-    std::vector<std::unique_ptr<const View>> kept_;
+    std::pmr::forward_list<View> kept_{&memory_};
 };
 
 }  // namespace views

@@ -3,7 +3,7 @@
 #include "platform/views/view/View.hpp"
 #include "platform/views/view/ViewList.hpp"
 
-#include <vector>
+#include <utility>
 
 namespace views {
 
@@ -13,7 +13,8 @@ View modified(const View& view, const Wrap& wrap) {
     const auto members = view.node().members();
     if (!members)
         return wrap(view);
-    std::vector<View> wrapped;
+    Views wrapped(BuildMemory::current());
+    wrapped.reserve(members->size());
     for (const View& member : *members)
         wrapped.push_back(modified(member, wrap));
     return ViewList(std::move(wrapped));

@@ -20,7 +20,7 @@ Placement aligned(const View& child,
             offer};
 }
 
-Layers::Layers(Alignment alignment, std::vector<View> children)
+Layers::Layers(Alignment alignment, Views children)
     : alignment_(alignment), children_(std::move(children)) {}
 
 Size Layers::sizeThatFits(const Proposal& proposal, LayoutContext& context) const {

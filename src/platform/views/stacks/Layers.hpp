@@ -3,14 +3,12 @@
 #include "platform/views/layout/Alignment.hpp"
 #include "platform/views/view/View.hpp"
 
-#include <vector>
-
 namespace views {
 
 /// Views on each other: each is offered what the whole is offered, then the size of the largest.
 class Layers {
   public:
-    Layers(Alignment alignment, std::vector<View> children);
+    Layers(Alignment alignment, Views children);
 
     Size sizeThatFits(const Proposal& proposal, LayoutContext& context) const;
     void draw(const Placement& place, LayoutContext& context, Recorder& recorder) const;
@@ -18,7 +16,7 @@ class Layers {
 
   private:
     Alignment alignment_;
-    std::vector<View> children_;
+    Views children_;
 };
 
 /// `child` offered the size of `frame` and aligned in it.

@@ -19,9 +19,9 @@ double& along(Axis axis, Size& size) {
     return axis == Axis::horizontal ? size.width : size.height;
 }
 
-Proposal offering(Axis axis, std::optional<double> length, Proposal proposal) {
-    along(axis, proposal) = length;
-    return proposal;
+Proposal offering(Axis axis, std::optional<double> length, const Proposal& proposal) {
+    return axis == Axis::horizontal ? Proposal{length, proposal.height}
+                                    : Proposal{proposal.width, length};
 }
 
 constexpr Axis across(Axis axis) {
@@ -30,7 +30,7 @@ constexpr Axis across(Axis axis) {
 
 }  // namespace
 
-LinearStack::LinearStack(Axis axis, Alignment alignment, double spacing, std::vector<View> children)
+LinearStack::LinearStack(Axis axis, Alignment alignment, double spacing, Views children)
     : axis_(axis), alignment_(alignment), spacing_(spacing), children_(std::move(children)) {}
 
 Size LinearStack::sizeThatFits(const Proposal& proposal, LayoutContext& context) const {

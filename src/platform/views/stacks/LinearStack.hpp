@@ -15,7 +15,7 @@ enum class Axis { horizontal, vertical };
 class LinearStack {
   public:
     /// `alignment` counts across the axis only.
-    LinearStack(Axis axis, Alignment alignment, double spacing, std::vector<View> children);
+    LinearStack(Axis axis, Alignment alignment, double spacing, Views children);
 
     Size sizeThatFits(const Proposal& proposal, LayoutContext& context) const;
     void draw(const Placement& place, LayoutContext& context, Recorder& recorder) const;
@@ -38,7 +38,7 @@ class LinearStack {
     Axis axis_;
     Alignment alignment_;
     double spacing_;
-    std::vector<View> children_;
+    Views children_;
 };
 
 }  // namespace views

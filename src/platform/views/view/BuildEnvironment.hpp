@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/foundation/Environment.hpp"
+#include "platform/views/view/BuildMemory.hpp"
 
 namespace views {
 
@@ -8,7 +9,8 @@ namespace views {
 /// without one the process stops.
 const foundation::Environment& buildEnvironment();
 
-/// While it lives, views on this thread are built against `environment`. Scopes nest.
+/// While it lives, views on this thread are built against `environment`, in a memory of their own.
+/// Scopes nest.
 class BuildScope {
   public:
     explicit BuildScope(const foundation::Environment& environment);
@@ -18,6 +20,7 @@ class BuildScope {
 
   private:
     const foundation::Environment* outer_;
+    BuildMemory memory_;
 };
 
 }  // namespace views

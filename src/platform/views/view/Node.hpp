@@ -2,6 +2,7 @@
 
 #include "platform/views/layout/Proposal.hpp"
 
+#include <cstddef>
 #include <optional>
 #include <span>
 
@@ -14,7 +15,6 @@ class View;
 /// What a primitive view answers while it is laid out and drawn. Immutable.
 class Node {
   public:
-    virtual ~Node() = default;
     /// The size the view takes for an offer; never negative.
     virtual Size sizeThatFits(const Proposal& proposal, LayoutContext& context) const = 0;
     /// Adds what the view draws at its place.
@@ -22,9 +22,24 @@ class Node {
     /// Distance of the first line's baseline from the view's top; without a text, its bottom.
     virtual double firstBaseline(const Proposal& proposal, LayoutContext& context) const = 0;
     /// The least length of a spacer; nothing for any other view.
-    virtual std::optional<double> spacerLength() const { return std::nullopt; }
+    std::optional<double> spacerLength() const { return spacerLength_; }
     /// The members of a list; nothing for a single view.
     virtual std::optional<std::span<const View>> members() const { return std::nullopt; }
+
+  protected:
+    explicit Node(std::optional<double> spacerLength) : spacerLength_(spacerLength) {}
+    Node(const Node&) = delete;
+    Node& operator=(const Node&) = delete;
+    ~Node() = default;
+
+  private:
+    friend class NodePointer;
+    /// Ends the node and gives its memory back.
+    virtual void destroy() = 0;
+
+    // Not asked of the view: a stack wants to know it of each child many times over.
+    const std::optional<double> spacerLength_;
+    std::size_t holders_ = 1;
 };
 
 }  // namespace views

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "platform/views/view/BuildMemory.hpp"
 #include "platform/views/view/Modifiers.hpp"
-#include "platform/views/view/Node.hpp"
+#include "platform/views/view/NodePointer.hpp"
 
 #include <concepts>
-#include <memory>
+#include <memory_resource>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 namespace views {
 
@@ -24,12 +26,14 @@ concept Composite = requires(const T& view) {
 };
 
 /// An immutable piece of a face. It is made implicitly from any primitive, or from any composite,
-/// whose body is taken once, here. Copies share what they hold.
+/// whose body is taken once, here. Copies share what they hold, and are used by one thread at a
+/// time.
 class View : public Modifiers<View> {
   public:
-    template <Primitive T>
-    requires(!std::derived_from<T, View>) View(T primitive)
-        : node_(std::make_shared<const Holder<T>>(std::move(primitive))) {}
+    template <class T>
+    requires(Primitive<std::remove_cvref_t<T>> && !std::derived_from<std::remove_cvref_t<T>, View>)
+        View(T&& primitive)
+        : node_(Holder<std::remove_cvref_t<T>>::make(std::forward<T>(primitive))) {}
 
     template <Composite T>
     requires(!std::derived_from<T, View>) View(const T& composite)
@@ -50,8 +54,19 @@ class View : public Modifiers<View> {
   private:
     template <class T>
     class Holder final : public Node {
+        using Allocator = std::pmr::polymorphic_allocator<>;
+
       public:
-        explicit Holder(T primitive) : primitive_(std::move(primitive)) {}
+        template <class Primitive>
+        static Holder* make(Primitive&& primitive) {
+            Allocator memory(BuildMemory::current());
+            return memory.new_object<Holder>(memory, std::forward<Primitive>(primitive));
+        }
+        template <class Primitive>
+        Holder(const Allocator& memory, Primitive&& primitive)
+            : Node(spacerLengthOf(primitive)),
+              memory_(memory),
+              primitive_(std::forward<Primitive>(primitive)) {}
         Size sizeThatFits(const Proposal& proposal, LayoutContext& context) const override {
             return primitive_.sizeThatFits(proposal, context);
         }
@@ -66,12 +81,6 @@ class View : public Modifiers<View> {
             else
                 return primitive_.sizeThatFits(proposal, context).height;
         }
-        std::optional<double> spacerLength() const override {
-            if constexpr (requires { primitive_.spacerLength(); })
-                return primitive_.spacerLength();
-            else
-                return std::nullopt;
-        }
         std::optional<std::span<const View>> members() const override {
             if constexpr (requires { primitive_.members(); })
                 return primitive_.members();
@@ -80,11 +89,23 @@ class View : public Modifiers<View> {
         }
 
       private:
+        static std::optional<double> spacerLengthOf(const T& primitive) {
+            if constexpr (requires { primitive.spacerLength(); })
+                return primitive.spacerLength();
+            else
+                return std::nullopt;
+        }
+        void destroy() override { Allocator(memory_).delete_object(this); }
+
+        Allocator memory_;
         T primitive_;
     };
 
-    std::shared_ptr<const Node> node_;
+    NodePointer node_;
 };
+
+/// Views in order, such as the children of a stack; made with `BuildMemory::current()`.
+using Views = std::pmr::vector<View>;
 
 }  // namespace views
 

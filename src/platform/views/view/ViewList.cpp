@@ -6,7 +6,7 @@ namespace views {
 
 namespace {
 
-void append(std::vector<View>& flat, std::span<const View> views) {
+void append(Views& flat, std::span<const View> views) {
     for (const View& view : views) {
         if (const auto members = view.node().members())
             append(flat, *members);
@@ -17,8 +17,8 @@ void append(std::vector<View>& flat, std::span<const View> views) {
 
 }  // namespace
 
-std::vector<View> flattened(std::span<const View> views) {
-    std::vector<View> flat;
+Views flattened(std::span<const View> views) {
+    Views flat(BuildMemory::current());
     flat.reserve(views.size());
     append(flat, views);
     return flat;

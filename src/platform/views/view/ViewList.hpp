@@ -4,7 +4,7 @@
 
 #include <initializer_list>
 #include <span>
-#include <vector>
+#include <utility>
 
 namespace views {
 
@@ -12,8 +12,10 @@ namespace views {
 /// an empty list adds nothing to it, not even a gap. Outside a stack the members lie on each other.
 class ViewList {
   public:
-    explicit ViewList(std::vector<View> members) : members_(std::move(members)) {}
-    ViewList(std::initializer_list<View> members) : members_(members) {}
+    explicit ViewList(Views members) : members_(std::move(members)) {}
+    explicit ViewList(std::span<const View> members)
+        : members_(members.begin(), members.end(), BuildMemory::current()) {}
+    ViewList(std::initializer_list<View> members) : members_(members, BuildMemory::current()) {}
 
     Size sizeThatFits(const Proposal& proposal, LayoutContext& context) const;
     void draw(const Placement& place, LayoutContext& context, Recorder& recorder) const;
@@ -21,11 +23,11 @@ class ViewList {
     std::span<const View> members() const { return members_; }
 
   private:
-    std::vector<View> members_;
+    Views members_;
 };
 
 /// The views with every list among them replaced by its members, however deep.
-std::vector<View> flattened(std::span<const View> views);
+Views flattened(std::span<const View> views);
 
 /// What `make` makes, only where the condition holds.
 template <class Make>
@@ -38,7 +40,7 @@ View when(bool condition, const Make& make) {
 /// One view for every element, in order.
 template <class Elements, class Make>
 View forEach(const Elements& elements, const Make& make) {
-    std::vector<View> views;
+    Views views(BuildMemory::current());
     views.reserve(std::size(elements));
     for (const auto& element : elements)
         views.push_back(make(element));
