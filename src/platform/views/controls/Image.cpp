@@ -13,18 +13,6 @@ Image Image::systemName(std::string name) {
     return Image(std::move(name));
 }
 
-Image Image::font(const Font& font) const {
-    Image copy = *this;
-    copy.font_ = font;
-    return copy;
-}
-
-Image Image::foregroundStyle(const Color& color) const {
-    Image copy = *this;
-    copy.color_ = color;
-    return copy;
-}
-
 Size Image::size() const {
     const SymbolArtwork* artwork = symbolArtwork(name_, font_.weight);
     if (!artwork)

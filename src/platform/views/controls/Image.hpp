@@ -1,7 +1,6 @@
 #pragma once
 
-#include "platform/views/geometry/Color.hpp"
-#include "platform/views/text/Font.hpp"
+#include "platform/views/text/Lettering.hpp"
 #include "platform/views/view/View.hpp"
 
 #include <string>
@@ -10,12 +9,9 @@ namespace views {
 
 /// A symbol in the size and weight of a font. Its size is that of the artwork; an unknown name is 0
 /// × 0 and draws nothing.
-class Image : public Modifiers<Image> {
+class Image : public Lettering<Image> {
   public:
     static Image systemName(std::string name);
-
-    Image font(const Font& font) const;
-    Image foregroundStyle(const Color& color) const;
 
     Size sizeThatFits(const Proposal& proposal, LayoutContext& context) const;
     double firstBaseline(const Proposal& proposal, LayoutContext& context) const;
@@ -26,8 +22,6 @@ class Image : public Modifiers<Image> {
     Size size() const;
 
     std::string name_;
-    Font font_;
-    Color color_;
 };
 
 }  // namespace views

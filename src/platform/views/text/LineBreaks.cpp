@@ -12,6 +12,11 @@ namespace views {
 
 namespace {
 
+/// A quick look, so that most bytes of a text need no closer one.
+bool mayBeginHardBreak(char byte) {
+    return (byte >= '\n' && byte <= '\r') || byte == '\xC2' || byte == '\xE2';
+}
+
 /// Length in bytes of the hard break at the start of the text, 0 if there is none.
 std::size_t hardBreakLength(std::string_view text) {
     constexpr std::array<std::string_view, 7> breaks{"\r\n", "\n",     "\r",    "\v",
@@ -52,7 +57,7 @@ std::vector<std::string_view> paragraphs(std::string_view text) {
     std::vector<std::string_view> pieces;
     std::size_t start = 0;
     for (std::size_t i = 0; i < text.size();) {
-        const std::size_t length = hardBreakLength(text.substr(i));
+        const std::size_t length = mayBeginHardBreak(text[i]) ? hardBreakLength(text.substr(i)) : 0;
         if (length > 0) {
             pieces.push_back(text.substr(start, i - start));
             start = i + length;

@@ -28,40 +28,39 @@ std::size_t linesWithin(std::optional<double> offer, double lineHeight) {
 Text::Text(std::string verbatim) : text_(std::move(verbatim)) {}
 
 Text Text::localized(std::string_view key,
-                     const std::vector<foundation::FormatArgument>& arguments) {
+                     std::initializer_list<foundation::FormatArgument> arguments) {
     const foundation::Environment& environment = buildEnvironment();
     return Text(
         foundation::localizedString(key, environment.mainBundle, environment.locale, arguments));
 }
 
-Text Text::font(const Font& font) const {
-    Text copy = *this;
-    copy.font_ = font;
-    return copy;
+Text Text::tracking(double points) && {
+    tracking_ = points;
+    return std::move(*this);
 }
 
-Text Text::foregroundStyle(const Color& color) const {
-    Text copy = *this;
-    copy.color_ = color;
-    return copy;
+Text Text::lineLimit(std::size_t lines) && {
+    lineLimit_ = lines;
+    return std::move(*this);
 }
 
-Text Text::tracking(double points) const {
-    Text copy = *this;
-    copy.tracking_ = points;
-    return copy;
-}
-
-Text Text::lineLimit(std::size_t lines) const {
-    Text copy = *this;
-    copy.lineLimit_ = lines;
-    return copy;
+const TextLayout* Text::wholeWithin(double width, LayoutContext& context) const {
+    const TextLayout& ideal = laidOut(infinity, 1, context);
+    const bool fits = width > 0 && ideal.width <= width + roundingError;
+    return fits && ideal.lines.front() == text_ ? &ideal : nullptr;
 }
 
 const TextLayout& Text::laidOut(const Proposal& proposal, LayoutContext& context) const {
     const double width = proposal.width.value_or(infinity);
+    if (const TextLayout* whole = wholeWithin(width, context))
+        return *whole;
     const std::size_t lines =
-        std::min(lineLimit_, linesWithin(proposal.height, font_.lineHeight()));
+        lineLimit_ == 1 ? 1
+                        : std::min(lineLimit_, linesWithin(proposal.height, font_.lineHeight()));
+    return laidOut(width, lines, context);
+}
+
+const TextLayout& Text::laidOut(double width, std::size_t lines, LayoutContext& context) const {
     if (const TextLayout* known = context.remembered(this, width, lines))
         return *known;
     return context.remember(this, width, lines,
