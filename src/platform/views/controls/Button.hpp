@@ -3,6 +3,7 @@
 #include "platform/intents/ArchivedAction.hpp"
 #include "platform/views/view/View.hpp"
 
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -25,6 +26,11 @@ class Button : public Modifiers<Button> {
 
     Size sizeThatFits(const Proposal& proposal, LayoutContext& context) const;
     double firstBaseline(const Proposal& proposal, LayoutContext& context) const;
+    std::optional<double> fixedLength(Axis axis,
+                                      std::optional<double> acrossOffer,
+                                      LayoutContext& context) const {
+        return label_.node().fixedLength(axis, acrossOffer, context);
+    }
     void draw(const Placement& place, LayoutContext& context, Recorder& recorder) const;
 
   private:

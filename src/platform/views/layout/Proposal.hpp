@@ -9,6 +9,12 @@ namespace views {
 
 inline constexpr double infinity = std::numeric_limits<double>::infinity();
 
+enum class Axis { horizontal, vertical };
+
+constexpr Axis across(Axis axis) {
+    return axis == Axis::horizontal ? Axis::vertical : Axis::horizontal;
+}
+
 /// The size a parent offers a view, in points: an absent length asks for the ideal one, 0 for the
 /// smallest, infinity for the largest.
 struct Proposal {

@@ -46,6 +46,17 @@ Size sizeAround(const View& inner,
     return {frame.width.value_or(size.width), frame.height.value_or(size.height)};
 }
 
+Length fixedLengthAround(const View& inner,
+                         const FixedFrame& frame,
+                         Axis axis,
+                         Length acrossOffer,
+                         LayoutContext& context) {
+    const bool isHorizontal = axis == Axis::horizontal;
+    const Length own = isHorizontal ? frame.width : frame.height;
+    const Length other = isHorizontal ? frame.height : frame.width;
+    return own ? own : inner.node().fixedLength(axis, other ? other : acrossOffer, context);
+}
+
 Proposal offered(const FlexibleFrame& frame, const Proposal& proposal) {
     return {bounded(proposal.width, frame.minWidth, frame.maxWidth),
             bounded(proposal.height, frame.minHeight, frame.maxHeight)};
@@ -60,6 +71,10 @@ Size sizeAround(const View& inner,
             flexibleLength(proposal.height, size.height, frame.minHeight, frame.maxHeight)};
 }
 
+Length fixedLengthAround(const View&, const FlexibleFrame&, Axis, Length, LayoutContext&) {
+    return std::nullopt;
+}
+
 /// A view in a frame of either kind, aligned in it.
 template <class Frame>
 class FramedView {
@@ -72,6 +87,10 @@ class FramedView {
 
     void draw(const Placement& place, LayoutContext& context, Recorder& recorder) const {
         inner_.draw(placed(place.frame, place.proposal, context), context, recorder);
+    }
+
+    Length fixedLength(Axis axis, Length acrossOffer, LayoutContext& context) const {
+        return fixedLengthAround(inner_, frame_, axis, acrossOffer, context);
     }
 
     double firstBaseline(const Proposal& proposal, LayoutContext& context) const {

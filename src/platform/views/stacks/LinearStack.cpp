@@ -24,10 +24,6 @@ Proposal offering(Axis axis, std::optional<double> length, const Proposal& propo
                                     : Proposal{proposal.width, length};
 }
 
-constexpr Axis across(Axis axis) {
-    return axis == Axis::horizontal ? Axis::vertical : Axis::horizontal;
-}
-
 }  // namespace
 
 LinearStack::LinearStack(Axis axis, Alignment alignment, double spacing, Views children)
@@ -35,6 +31,26 @@ LinearStack::LinearStack(Axis axis, Alignment alignment, double spacing, Views c
 
 Size LinearStack::sizeThatFits(const Proposal& proposal, LayoutContext& context) const {
     return laidOut(proposal, context).size;
+}
+
+std::optional<double> LinearStack::fixedLength(Axis axis,
+                                               std::optional<double>,
+                                               LayoutContext& context) const {
+    const bool onBaseline =
+        axis_ == Axis::horizontal && alignment_.vertical == VerticalAlignment::firstTextBaseline;
+    if (axis == axis_ || onBaseline)
+        return std::nullopt;
+    // Across the axis it is as large as its largest child, however its own length is shared.
+    double largest = 0;
+    for (const View& child : children_) {
+        if (child.node().spacerLength())
+            continue;
+        const auto length = child.node().fixedLength(axis, std::nullopt, context);
+        if (!length)
+            return std::nullopt;
+        largest = std::max(largest, *length);
+    }
+    return largest;
 }
 
 void LinearStack::draw(const Placement& place, LayoutContext& context, Recorder& recorder) const {
@@ -115,7 +131,14 @@ std::pmr::vector<Flexibility> LinearStack::flexibilities(const Proposal& proposa
                                                          LayoutContext& context) const {
     std::pmr::vector<Flexibility> answers(context.memory());
     answers.reserve(children_.size());
+    Proposal offered = proposal;
+    const auto acrossOffer = along(across(axis_), offered);
     for (const View& child : children_) {
+        // Such a child would answer both questions alike.
+        if (const auto length = child.node().fixedLength(axis_, acrossOffer, context)) {
+            answers.push_back({*length, *length});
+            continue;
+        }
         Size shortest = measured(child, offering(axis_, 0, proposal), context);
         Size longest = measured(child, offering(axis_, infinity, proposal), context);
         answers.push_back({along(axis_, shortest), along(axis_, longest),

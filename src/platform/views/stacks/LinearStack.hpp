@@ -4,12 +4,11 @@
 #include "platform/views/view/View.hpp"
 
 #include <memory_resource>
+#include <optional>
 #include <span>
 #include <vector>
 
 namespace views {
-
-enum class Axis { horizontal, vertical };
 
 /// What an HStack and a VStack have in common: children in a row along an axis.
 class LinearStack {
@@ -18,6 +17,9 @@ class LinearStack {
     LinearStack(Axis axis, Alignment alignment, double spacing, Views children);
 
     Size sizeThatFits(const Proposal& proposal, LayoutContext& context) const;
+    std::optional<double> fixedLength(Axis axis,
+                                      std::optional<double> acrossOffer,
+                                      LayoutContext& context) const;
     void draw(const Placement& place, LayoutContext& context, Recorder& recorder) const;
     double firstBaseline(const Proposal& proposal, LayoutContext& context) const;
 

@@ -74,6 +74,16 @@ Size Text::sizeThatFits(const Proposal& proposal, LayoutContext& context) const 
             static_cast<double>(layout.lines.size()) * font_.lineHeight()};
 }
 
+std::optional<double> Text::fixedLength(Axis axis,
+                                        std::optional<double> acrossOffer,
+                                        LayoutContext& context) const {
+    const bool hasOneLine =
+        lineLimit_ == 1 || (acrossOffer && wholeWithin(*acrossOffer, context) != nullptr);
+    if (axis == Axis::vertical && hasOneLine)
+        return font_.lineHeight();
+    return std::nullopt;
+}
+
 double Text::firstBaseline(const Proposal&, LayoutContext&) const {
     return font_.baseline();
 }

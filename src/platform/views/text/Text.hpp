@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -30,6 +31,9 @@ class Text : public Lettering<Text> {
     Text lineLimit(std::size_t lines) &&;
 
     Size sizeThatFits(const Proposal& proposal, LayoutContext& context) const;
+    std::optional<double> fixedLength(Axis axis,
+                                      std::optional<double> acrossOffer,
+                                      LayoutContext& context) const;
     double firstBaseline(const Proposal& proposal, LayoutContext& context) const;
     void draw(const Placement& place, LayoutContext& context, Recorder& recorder) const;
 

@@ -21,6 +21,12 @@ class Node {
     virtual void draw(const Placement& place, LayoutContext& context, Recorder& recorder) const = 0;
     /// Distance of the first line's baseline from the view's top; without a text, its bottom.
     virtual double firstBaseline(const Proposal& proposal, LayoutContext& context) const = 0;
+    /// The length that the view takes along an axis whatever it is offered there; nothing where
+    /// that makes a difference or is hard to tell. `acrossOffer` is offered on the other axis;
+    /// where it is absent, anything may be.
+    virtual std::optional<double> fixedLength(Axis axis,
+                                              std::optional<double> acrossOffer,
+                                              LayoutContext& context) const = 0;
     /// The least length of a spacer; nothing for any other view.
     std::optional<double> spacerLength() const { return spacerLength_; }
     /// The members of a list; nothing for a single view.

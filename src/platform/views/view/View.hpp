@@ -81,6 +81,14 @@ class View : public Modifiers<View> {
             else
                 return primitive_.sizeThatFits(proposal, context).height;
         }
+        std::optional<double> fixedLength(Axis axis,
+                                          std::optional<double> acrossOffer,
+                                          LayoutContext& context) const override {
+            if constexpr (requires { primitive_.fixedLength(axis, acrossOffer, context); })
+                return primitive_.fixedLength(axis, acrossOffer, context);
+            else
+                return std::nullopt;
+        }
         std::optional<std::span<const View>> members() const override {
             if constexpr (requires { primitive_.members(); })
                 return primitive_.members();

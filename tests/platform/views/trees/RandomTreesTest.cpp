@@ -52,6 +52,27 @@ TEST(RandomTrees, SizesAreNeverNegativeAndFiniteForFiniteOffers) {
     });
 }
 
+TEST(RandomTrees, TakeTheirFixedLengthsOfEveryOffer) {
+    std::size_t fixed = 0;
+    forManyTrees([&](const View& view, const Tree&, const Proposal& offer, Frames&) {
+        const support::FixedTextMeasurer measurer;
+        LayoutContext context(measurer, 2);
+        const auto width = view.node().fixedLength(Axis::horizontal, offer.height, context);
+        const auto height = view.node().fixedLength(Axis::vertical, offer.width, context);
+        for (const auto& any : {std::optional<double>(), std::optional(0.0), std::optional(7.0),
+                                std::optional(infinity)}) {
+            if (width) {
+                EXPECT_EQ(sizeOf(view, {any, offer.height}).width, *width);
+            }
+            if (height) {
+                EXPECT_EQ(sizeOf(view, {offer.width, any}).height, *height);
+            }
+        }
+        fixed += width.has_value() + height.has_value();
+    });
+    EXPECT_GT(fixed, 1000u);
+}
+
 TEST(RandomTrees, AnswerTheSameHoweverOftenAndInWhateverOrderTheyAreAsked) {
     forManyTrees([](const View& view, const Tree&, const Proposal& offer, Frames& drawn) {
         const support::FixedTextMeasurer measurer;
