@@ -2,14 +2,13 @@
 
 #include "linea/Idioma.hpp"
 #include "peticiones/PonerVolumen.hpp"
-#include "platform/views/controls/Button.hpp"
+#include "platform/views/controls/Segments.hpp"
 #include "platform/views/layout/GeometryReader.hpp"
 #include "platform/views/stacks/Stacks.hpp"
 #include "platform/views/view/ViewList.hpp"
 #include "vistas/WO.hpp"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 
 namespace nurva {
@@ -21,19 +20,14 @@ namespace {
 constexpr double alto = 16;
 constexpr Color colorDePerilla{0.847, 0.867, 0.875};
 
-/// One tenth of the bar: nothing to see, all of it to press.
-View decimo(const std::string& clave, int i, const View& nada) {
-    const double nivel = i / 10.0;
-    return Button(intents::archived(PonerVolumen(clave, nivel)), nada)
-        .accessibilityLabel(
-            Idioma::texto("%lld por ciento", {static_cast<std::int64_t>(nivel * 100)}));
-}
-
+/// The tenths of the bar: nothing to see, all of it to press.
 View decimos(const std::string& clave) {
-    constexpr std::array lugares{1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
-    const View nada = Color::clear();
-    return HStack{.spacing = 0}({
-        forEach(lugares, [&](int i) { return decimo(clave, i, nada); }),
+    return Segments(10, [clave](int i) {
+        const double nivel = i / 10.0;
+        return Control{
+            .label = Idioma::texto("%lld por ciento", {static_cast<std::int64_t>(nivel * 100)}),
+            .action = intents::archived(PonerVolumen(clave, nivel)),
+        };
     });
 }
 
@@ -62,10 +56,10 @@ double fraccionLlena(double nivel) {
 }
 
 View JaladorChico::body() const {
-    return GeometryReader([jalador = *this](Size medida) {
-               return barra(jalador, medida.width).frame({.height = alto});
-           })
-        .frame({.height = alto});
+    const View aLoAncho = GeometryReader([jalador = *this](Size medida) {
+        return barra(jalador, medida.width).frame({.height = alto});
+    });
+    return aLoAncho.frame({.height = alto});
 }
 
 }  // namespace nurva

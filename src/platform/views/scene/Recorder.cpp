@@ -112,7 +112,7 @@ void Recorder::close(double opacity, std::vector<Command> outer) {
         commands().emplace_back(std::move(group));
 }
 
-void Recorder::close(Control control, const std::vector<std::string>& texts) {
+void Recorder::close(Control&& control, const std::vector<std::string>& texts) {
     if (isOutside(control.frame))
         return;
     if (control.label.empty()) {

@@ -34,7 +34,7 @@ class Recorder {
     /// What `drawing` records is the label of a control; where `control.label` is empty, its texts
     /// are.
     template <class Drawing>
-    void control(Control control, const Drawing& drawing) {
+    void control(Control&& control, const Drawing& drawing) {
         std::vector<std::string>* outer = std::exchange(buttonTexts_, nullptr);
         std::vector<std::string> texts;
         buttonTexts_ = &texts;
@@ -53,7 +53,7 @@ class Recorder {
     std::vector<Command>& commands() { return scene_.drawing; }
     void record(Command command, const Rect& bounds);
     void close(double opacity, std::vector<Command> outer);
-    void close(Control control, const std::vector<std::string>& texts);
+    void close(Control&& control, const std::vector<std::string>& texts);
     bool isOutside(const Rect& bounds) const;
 
     Scene scene_;
