@@ -9,9 +9,9 @@
 #include "platform/views/stacks/Stacks.hpp"
 #include "platform/views/text/Text.hpp"
 #include "platform/views/view/ViewList.hpp"
+#include "vistas/Cabecera.hpp"
 #include "vistas/Cara.hpp"
 #include "vistas/CurvaChica.hpp"
-#include "vistas/Rotulo.hpp"
 #include "vistas/Sistema.hpp"
 #include "vistas/WO.hpp"
 
@@ -22,14 +22,13 @@ using namespace views;
 namespace {
 
 View cabecera(const std::string& perfil) {
-    return HStack{.spacing = 5}({
-        Rotulo{.texto = Idioma::texto("Poner un perfil")},
-        Spacer{.minLength = 0},
-        Text(Idioma::texto("ahora: %@", {perfil}))
-            .font(sistema(10.5))
-            .foregroundStyle(WO::texto3)
-            .lineLimit(1),
-    });
+    return Cabecera{
+        .rotulo = Idioma::texto("Poner un perfil"),
+        .alFinal = Text(Idioma::texto("ahora: %@", {perfil}))
+                       .font(sistema(10.5))
+                       .foregroundStyle(WO::texto3)
+                       .lineLimit(1),
+    };
 }
 
 View loseta(const PerfilCorto& perfil, bool dejaCambiar) {

@@ -5,9 +5,9 @@
 #include "platform/views/stacks/Stacks.hpp"
 #include "platform/views/text/Text.hpp"
 #include "platform/views/view/ViewList.hpp"
+#include "vistas/Cabecera.hpp"
 #include "vistas/Cara.hpp"
 #include "vistas/CurvaChica.hpp"
-#include "vistas/Rotulo.hpp"
 #include "vistas/Sistema.hpp"
 #include "vistas/WO.hpp"
 
@@ -18,11 +18,11 @@ using namespace views;
 namespace {
 
 View cabecera(bool prendido) {
-    return HStack{.spacing = 5}({
-        Rotulo{.texto = "Nurva"},
-        Spacer{.minLength = 0},
-        Circle{}.fill(prendido ? WO::acento() : WO::texto3).frame({.width = 6, .height = 6}),
-    });
+    return Cabecera{
+        .rotulo = "Nurva",
+        .alFinal =
+            Circle{}.fill(prendido ? WO::acento() : WO::texto3).frame({.width = 6, .height = 6}),
+    };
 }
 
 View contenido(const EstadoParaWidgets& e) {

@@ -6,8 +6,8 @@
 #include "platform/views/stacks/Stacks.hpp"
 #include "platform/views/text/Text.hpp"
 #include "platform/views/view/ViewList.hpp"
+#include "vistas/Cabecera.hpp"
 #include "vistas/Cara.hpp"
-#include "vistas/Rotulo.hpp"
 #include "vistas/Sistema.hpp"
 #include "vistas/WO.hpp"
 
@@ -18,11 +18,10 @@ using namespace views;
 namespace {
 
 View cabecera(const std::string& medidoHace) {
-    return HStack{.spacing = 5}({
-        Rotulo{.texto = Idioma::texto("Tu cuarto")},
-        Spacer{.minLength = 0},
-        Text(medidoHace).font(sistema(10)).foregroundStyle(WO::texto3).lineLimit(1),
-    });
+    return Cabecera{
+        .rotulo = Idioma::texto("Tu cuarto"),
+        .alFinal = Text(medidoHace).font(sistema(10)).foregroundStyle(WO::texto3).lineLimit(1),
+    };
 }
 
 /// The value after correction follows the system's language and locale; the one before is always

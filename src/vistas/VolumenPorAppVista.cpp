@@ -4,14 +4,13 @@
 #include "peticiones/SilenciarApp.hpp"
 #include "platform/views/controls/Button.hpp"
 #include "platform/views/controls/Image.hpp"
-#include "platform/views/stacks/Spacer.hpp"
 #include "platform/views/stacks/Stacks.hpp"
 #include "platform/views/text/Text.hpp"
 #include "platform/views/view/ViewList.hpp"
 #include "vistas/BotonDePaso.hpp"
+#include "vistas/Cabecera.hpp"
 #include "vistas/Cara.hpp"
 #include "vistas/JaladorChico.hpp"
-#include "vistas/Rotulo.hpp"
 #include "vistas/Sistema.hpp"
 #include "vistas/WO.hpp"
 
@@ -30,13 +29,12 @@ namespace {
 View cabecera(const std::vector<AppCorta>& apps) {
     const std::int64_t sonando =
         std::count_if(apps.begin(), apps.end(), [](const AppCorta& app) { return app.suena; });
-    return HStack{.spacing = 5}({
-        Rotulo{.texto = Idioma::texto("Volumen por app")},
-        Spacer{.minLength = 0},
-        Text(Idioma::texto("%lld sonando", {sonando}))
-            .font(sistema(10.5))
-            .foregroundStyle(WO::texto3),
-    });
+    return Cabecera{
+        .rotulo = Idioma::texto("Volumen por app"),
+        .alFinal = Text(Idioma::texto("%lld sonando", {sonando}))
+                       .font(sistema(10.5))
+                       .foregroundStyle(WO::texto3),
+    };
 }
 
 View nivelEscrito(const AppCorta& app) {
