@@ -1,7 +1,7 @@
 #include "platform/views/shapes/Path.hpp"
 
 #include "platform/views/scene/Recorder.hpp"
-#include "platform/views/view/View.hpp"
+#include "platform/views/shapes/FrameDrawing.hpp"
 
 namespace views {
 
@@ -13,39 +13,18 @@ std::vector<Point> movedTo(const Rect& frame, std::vector<Point> points) {
     return points;
 }
 
-struct FilledPath {
-    Path path;
-    Color color;
-
-    Size sizeThatFits(const Proposal& proposal, LayoutContext&) const {
-        return sizeTaking(proposal);
-    }
-    void draw(const Placement& place, LayoutContext&, Recorder& recorder) const {
-        recorder.fill(FillPath{movedTo(place.frame, path.points), color});
-    }
-};
-
-struct StrokedPath {
-    Path path;
-    Color color;
-    StrokeStyle style;
-
-    Size sizeThatFits(const Proposal& proposal, LayoutContext&) const {
-        return sizeTaking(proposal);
-    }
-    void draw(const Placement& place, LayoutContext&, Recorder& recorder) const {
-        recorder.stroke(StrokePath{movedTo(place.frame, path.points), style, color});
-    }
-};
-
 }  // namespace
 
 View Path::fill(const Color& color) const {
-    return FilledPath{*this, color};
+    return FrameDrawing{[path = *this, color](const Rect& frame, Recorder& recorder) {
+        recorder.fill(FillPath{movedTo(frame, path.points), color});
+    }};
 }
 
 View Path::stroke(const Color& color, const StrokeStyle& style) const {
-    return StrokedPath{*this, color, style};
+    return FrameDrawing{[path = *this, color, style](const Rect& frame, Recorder& recorder) {
+        recorder.stroke(StrokePath{movedTo(frame, path.points), style, color});
+    }};
 }
 
 }  // namespace views

@@ -1,7 +1,7 @@
 #include "platform/views/geometry/Color.hpp"
 #include "platform/views/scene/Recorder.hpp"
+#include "platform/views/shapes/FrameDrawing.hpp"
 #include "platform/views/shapes/Shape.hpp"
-#include "platform/views/view/View.hpp"
 
 #include <algorithm>
 
@@ -24,43 +24,24 @@ Shape inset(Shape shape, double distance) {
     return shape;
 }
 
-struct FilledShape {
-    Shape shape;
-    Color color;
-
-    Size sizeThatFits(const Proposal& proposal, LayoutContext&) const {
-        return sizeTaking(proposal);
-    }
-    void draw(const Placement& place, LayoutContext&, Recorder& recorder) const {
-        recorder.fill(FillShape{shape, frameOf(shape, place.frame), color});
-    }
-};
-
-struct BorderedShape {
-    Shape shape;
-    Color color;
-    double lineWidth;
-
-    Size sizeThatFits(const Proposal& proposal, LayoutContext&) const {
-        return sizeTaking(proposal);
-    }
-    void draw(const Placement& place, LayoutContext&, Recorder& recorder) const {
-        const double half = lineWidth / 2;
-        recorder.stroke(StrokeShape{inset(shape, half), frameOf(shape, place.frame).inset(half),
-                                    lineWidth, color});
-    }
-};
-
 }  // namespace
 
 template <class Self>
 View ShapeModifiers<Self>::fill(const Color& color) const {
-    return FilledShape{static_cast<const Self&>(*this), color};
+    const Shape shape = static_cast<const Self&>(*this);
+    return FrameDrawing{[shape, color](const Rect& frame, Recorder& recorder) {
+        recorder.fill(FillShape{shape, frameOf(shape, frame), color});
+    }};
 }
 
 template <class Self>
 View ShapeModifiers<Self>::strokeBorder(const Color& color, double lineWidth) const {
-    return BorderedShape{static_cast<const Self&>(*this), color, lineWidth};
+    const Shape shape = static_cast<const Self&>(*this);
+    return FrameDrawing{[shape, color, lineWidth](const Rect& frame, Recorder& recorder) {
+        const double half = lineWidth / 2;
+        recorder.stroke(
+            StrokeShape{inset(shape, half), frameOf(shape, frame).inset(half), lineWidth, color});
+    }};
 }
 
 template struct ShapeModifiers<Rectangle>;
