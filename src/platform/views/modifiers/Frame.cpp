@@ -42,6 +42,9 @@ Size sizeAround(const View& inner,
                 LayoutContext& context) {
     if (frame.width && frame.height)
         return {*frame.width, *frame.height};
+    if (frame.width)
+        if (const Length height = inner.node().fixedLength(Axis::vertical, frame.width, context))
+            return {*frame.width, *height};
     const Size size = inner.sizeThatFits(offered(frame, proposal), context);
     return {frame.width.value_or(size.width), frame.height.value_or(size.height)};
 }
