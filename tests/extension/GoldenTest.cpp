@@ -1,14 +1,9 @@
 #include "extension/Escaparate.hpp"
-#include "extension/NurvaWidgets.hpp"
-#include "platform/canvas/FontLibrary.hpp"
+#include "extension/EscenaDeMuestra.hpp"
 #include "platform/canvas/PNG.hpp"
-#include "platform/canvas/PangoTextMeasurer.hpp"
 #include "platform/canvas/PixelCanvas.hpp"
-#include "platform/foundation/json/JSONEncoder.hpp"
 #include "platform/views/scene/SceneJSON.hpp"
-#include "platform/widgets/EntryRenderer.hpp"
 #include "support/PictureComparison.hpp"
-#include "support/World.hpp"
 
 #include <cairo.h>
 #include <gtest/gtest.h>
@@ -22,8 +17,6 @@
 
 namespace nurva {
 namespace {
-
-constexpr double escala = 2;
 
 bool rehacer() {
     return std::getenv("NURVA_REMAKE_GOLDENS") != nullptr;
@@ -53,23 +46,6 @@ std::string enLineas(const views::Scene& escena) {
              i = texto.find(comienzo, i + 2))
             texto.insert(i, "\n");
     return texto + "\n";
-}
-
-views::Scene escenaDe(const Muestra& muestra, canvas::FontLibrary& fuentes) {
-    support::World mundo(support::World::bundleIn({muestra.idiomaDelSistema}), muestra.locale);
-    mundo.files.containers["group.org.nurva.Nurva"] = "/contenedor";
-    if (muestra.estado)
-        mundo.files.files["/contenedor/estado.json"] =
-            foundation::JSONEncoder().encode(*muestra.estado);
-    const auto paquete = NurvaWidgets();
-    const auto* widget = widgets::widgetOfKind(paquete, muestra.kind);
-    const auto familia = widget->families().at(0);
-    const auto entrada = widget->snapshot({.environment = mundo.environment, .family = familia});
-    const canvas::PangoTextMeasurer medidor(fuentes);
-    return widgets::EntryRenderer(mundo.environment, medidor)
-        .render(entrada, {.size = widgets::cardSize(familia),
-                          .margin = widgets::contentMargin,
-                          .scale = escala});
 }
 
 struct Superficie {
