@@ -2,6 +2,7 @@
 
 #include "platform/views/scene/Scene.hpp"
 
+#include <cstddef>
 #include <string>
 #include <utility>
 #include <vector>
@@ -26,7 +27,9 @@ class Recorder {
     /// What `drawing` records becomes one group.
     template <class Drawing>
     void group(double opacity, const Drawing& drawing) {
+        constexpr std::size_t usualLength = 4;  // of a control that is dimmed
         std::vector<Command> outer = std::exchange(commands(), {});
+        commands().reserve(usualLength);
         drawing();
         close(opacity, std::move(outer));
     }

@@ -57,16 +57,16 @@ class View : public Modifiers<View> {
         using Allocator = std::pmr::polymorphic_allocator<>;
 
       public:
-        template <class Primitive>
-        static Holder* make(Primitive&& primitive) {
+        template <class From>
+        static Holder* make(From&& primitive) {
             Allocator memory(BuildMemory::current());
-            return memory.new_object<Holder>(memory, std::forward<Primitive>(primitive));
+            return memory.new_object<Holder>(memory, std::forward<From>(primitive));
         }
-        template <class Primitive>
-        Holder(const Allocator& memory, Primitive&& primitive)
+        template <class From>
+        Holder(const Allocator& memory, From&& primitive)
             : Node(spacerLengthOf(primitive)),
               memory_(memory),
-              primitive_(std::forward<Primitive>(primitive)) {}
+              primitive_(std::forward<From>(primitive)) {}
         Size sizeThatFits(const Proposal& proposal, LayoutContext& context) const override {
             return primitive_.sizeThatFits(proposal, context);
         }
