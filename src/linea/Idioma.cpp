@@ -21,11 +21,9 @@ const foundation::Bundle& Idioma::paquete() {
 void Idioma::fijar(const std::optional<std::string>& idioma) {
     const foundation::Bundle& principal = views::buildEnvironment().mainBundle;
     if (idioma) {
-        if (const auto carpeta = principal.pathForResource(*idioma, "lproj")) {
-            if (const auto elegido = foundation::Bundle::open(*carpeta)) {
-                actual() = *elegido;
-                return;
-            }
+        if (const auto elegido = principal.localization(*idioma)) {
+            actual() = *elegido;
+            return;
         }
     }
     actual() = principal;

@@ -91,6 +91,30 @@ std::optional<PropertyList> Bundle::objectForInfoDictionaryKey(std::string_view 
 
 std::optional<std::filesystem::path> Bundle::pathForResource(std::string_view name,
                                                              std::string_view type) const {
+    auto resource = resourcePath(name, type);
+    std::error_code ignored;
+    if (resource && !std::filesystem::exists(*resource, ignored))
+        return std::nullopt;
+    return resource;
+}
+
+std::optional<Bundle> Bundle::localization(std::string_view language) const {
+    const auto folder = resourcePath(language, "lproj");
+    if (!folder)
+        return std::nullopt;
+    // Where there is a table there is a folder.
+    auto table = localizableTable(*folder);
+    if (!table)
+        return open(*folder);
+    auto contents = std::make_shared<Contents>();
+    contents->folder = *folder;
+    std::call_once(contents->tableRead, [&] { contents->table = std::move(table); });
+    return Bundle(std::move(contents));
+}
+
+/// Where a resource would be, there or not.
+std::optional<std::filesystem::path> Bundle::resourcePath(std::string_view name,
+                                                          std::string_view type) const {
     std::string file(name);
     if (!type.empty())
         file.append(".").append(type);
@@ -98,11 +122,7 @@ std::optional<std::filesystem::path> Bundle::pathForResource(std::string_view na
     if (name.empty() || file == "." || file == ".." ||
         file.find_first_of(leavesFolder) != std::string::npos)
         return std::nullopt;
-    std::filesystem::path resource = contents_->folder / file;
-    std::error_code ignored;
-    if (!std::filesystem::exists(resource, ignored))
-        return std::nullopt;
-    return resource;
+    return contents_->folder / file;
 }
 
 std::shared_ptr<const StringsTable> Bundle::suitedTable() const {

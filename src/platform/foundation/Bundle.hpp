@@ -39,12 +39,17 @@ class Bundle {
     std::optional<std::filesystem::path> pathForResource(std::string_view name,
                                                          std::string_view type) const;
 
+    /// The bundle in this bundle's folder for a language, by the folder's exact name.
+    std::optional<Bundle> localization(std::string_view language) const;
+
     /// The table `Localizable`, empty when there is none. Lives as long as a copy of this bundle.
     const StringsTable& localizedTable() const;
 
   private:
     struct Contents;
     explicit Bundle(std::shared_ptr<Contents> contents);
+    std::optional<std::filesystem::path> resourcePath(std::string_view name,
+                                                      std::string_view type) const;
     std::shared_ptr<const StringsTable> suitedTable() const;
     std::shared_ptr<Contents> contents_;
 };

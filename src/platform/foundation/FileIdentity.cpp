@@ -4,7 +4,7 @@
 
 namespace foundation {
 
-std::optional<FileIdentity> FileIdentity::of(const std::filesystem::path& path) {
+std::optional<FileIdentity> FileIdentity::of(const std::string& path) {
     struct stat status {};
     if (::stat(path.c_str(), &status) != 0)
         return std::nullopt;

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <cstdint>
-#include <filesystem>
 #include <optional>
+#include <string>
 
 namespace foundation {
 
@@ -16,7 +16,7 @@ struct FileIdentity {
 
     /// Of the file at a path, or nothing when there is none to be seen. Any thread; never fails
     /// otherwise.
-    static std::optional<FileIdentity> of(const std::filesystem::path& path);
+    static std::optional<FileIdentity> of(const std::string& path);
 
     friend bool operator==(const FileIdentity&, const FileIdentity&) = default;
 };

@@ -8,6 +8,7 @@
 #include <mutex>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace foundation {
@@ -51,7 +52,7 @@ class Cache {
     std::vector<Kept> kept_;
 };
 
-std::string contents(const std::filesystem::path& path, const std::optional<FileIdentity>& file) {
+std::string contents(const std::string& path, const std::optional<FileIdentity>& file) {
     if (!file)
         return {};
     try {
@@ -62,17 +63,21 @@ std::string contents(const std::filesystem::path& path, const std::optional<File
 }
 
 /// "en-GB" of ".../en-GB.lproj"; nothing for a folder that is no localization.
-std::string languageOf(const std::filesystem::path& folder) {
-    return folder.extension() == ".lproj" ? folder.stem().string() : std::string();
+std::string languageOf(std::string_view folder) {
+    constexpr std::string_view type = ".lproj";
+    const std::string_view name = folder.substr(folder.rfind('/') + 1);
+    return std::string(name.ends_with(type) ? name.substr(0, name.size() - type.size()) : "");
 }
 
 }  // namespace
 
 std::shared_ptr<const StringsTable> localizableTable(const std::filesystem::path& folder) {
     static Cache cache;
-    const auto strings = folder / "Localizable.strings";
-    const auto dictionary = folder / "Localizable.stringsdict";
-    const Key key{FileIdentity::of(strings), FileIdentity::of(dictionary), languageOf(folder)};
+    // Put together as plain texts: this is done at every choice of a language.
+    const std::string strings = folder.native() + "/Localizable.strings";
+    const std::string dictionary = strings + "dict";
+    const Key key{FileIdentity::of(strings), FileIdentity::of(dictionary),
+                  languageOf(folder.native())};
     if (!key.strings && !key.dictionary)
         return nullptr;
     if (auto table = cache.find(key))

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <thread>
 
 namespace foundation {
@@ -167,6 +169,24 @@ TEST(Bundle, AChangedTableIsSeenByTheNextBundleOpened) {
     std::filesystem::rename(folder.path() / "next", folder.path() / "Localizable.strings");
     EXPECT_EQ(wordFor(*Bundle::open(folder.path()), "k"), "other");
     EXPECT_EQ(wordFor(*before, "k"), "first");
+}
+
+TEST(Bundle, HasALocalizationWhereThereIsAFolderOfItsName) {
+    const support::TemporaryFolder folder;
+    std::filesystem::create_directories(folder.path() / "en.lproj");
+    std::filesystem::create_directories(folder.path() / "fr.lproj");
+    std::ofstream(folder.path() / "en.lproj" / "Localizable.strings") << R"("mudo" = "muted";)";
+    std::ofstream(folder.path() / "de.lproj") << "no folder";
+    const Bundle bundle = Bundle::localized(folder.path(), {"es"});
+    const auto english = bundle.localization("en");
+    ASSERT_TRUE(english);
+    EXPECT_EQ(english->path(), folder.path() / "en.lproj");
+    EXPECT_EQ(english->localizedTable().keys(), std::vector<std::string>{"mudo"});
+    const auto french = bundle.localization("fr");
+    ASSERT_TRUE(french);
+    EXPECT_EQ(french->localizedTable().size(), 0u);
+    for (const char* none : {"de", "it", "EN", "", ".", "../en"})
+        EXPECT_FALSE(bundle.localization(none)) << none;
 }
 
 TEST(Bundle, AnUnchangedTableIsReadOnce) {
