@@ -85,6 +85,11 @@ void CardMenu::open(double x, double y) {
         gtk_popover_set_has_arrow(GTK_POPOVER(popover_), FALSE);
         gtk_widget_set_halign(popover_, GTK_ALIGN_START);
     }
+    // Without a compositor a shadow is a black frame.
+    if (gdk_display_is_composited(gtk_widget_get_display(card_)))
+        gtk_widget_remove_css_class(popover_, "nurva-opaque");
+    else
+        gtk_widget_add_css_class(popover_, "nurva-opaque");
     const GdkRectangle at{static_cast<int>(x), static_cast<int>(y), 1, 1};
     gtk_popover_set_pointing_to(GTK_POPOVER(popover_), &at);
     gtk_popover_popup(GTK_POPOVER(popover_));

@@ -34,7 +34,10 @@ Desk::Desk(Surroundings surroundings,
                                      "notify::gtk-xft-dpi",
                                      [this](GParamSpec*) { later_.run([this] { rescale(); }); })) {}
 
-Desk::~Desk() = default;
+Desk::~Desk() {
+    if (patience_ != 0)
+        g_source_remove(patience_);
+}
 
 void Desk::open() {
     auto remembered = file_.load();
@@ -45,7 +48,9 @@ void Desk::open() {
     arrange();
     source_.onGalleryChanged([this] { later_.run([this] { galleryChanged(); }); });
     galleryChanged();
-    if (!isNew_ && cards_.empty())
+    if (isNew_)
+        awaitWidgets();
+    else if (cards_.empty())
         openGallery();
     explainWindows();
 }
@@ -74,6 +79,18 @@ void Desk::openGallery() {
         updateGallery();
     }
     gallery_->present();
+}
+
+/// Shows the gallery, which says that it has nothing to show, when no widgets come.
+void Desk::awaitWidgets() {
+    const auto loseIt = [](gpointer self) -> gboolean {
+        auto* desk = static_cast<Desk*>(self);
+        desk->patience_ = 0;
+        if (desk->isNew_)
+            desk->openGallery();
+        return G_SOURCE_REMOVE;
+    };
+    patience_ = g_timeout_add(static_cast<unsigned>(surroundings_.patience.count()), loseIt, this);
 }
 
 /// All widgets there are, for a user who has none yet and has not taken them away.

@@ -10,6 +10,7 @@
 #include "widgethost/Placement.hpp"
 #include "widgethost/PlacementFile.hpp"
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -26,6 +27,8 @@ class Desk {
         GdkDisplay* display;
         std::optional<double> scale;    // pixels per point, where it is not the display's own
         std::function<void()> onEmpty;  // nothing is left to be seen
+        /// How long a user who has no widgets yet sees nothing while there is no gallery.
+        std::chrono::milliseconds patience = std::chrono::seconds(4);
     };
 
     /// Requires that source and mount outlive it.
@@ -46,6 +49,7 @@ class Desk {
     Gallery* gallery() const { return gallery_.get(); }
 
   private:
+    void awaitWidgets();
     void welcome();
     void putUp(const widgethost::PlacedWidget& widget);
     void galleryChanged();
@@ -77,6 +81,7 @@ class Desk {
     std::unique_ptr<Gallery> gallery_;
     Connected monitorsChange_;
     Connected resolutionChanges_;
+    unsigned patience_ = 0;  // the timer
     Later later_;
 };
 

@@ -11,7 +11,7 @@ namespace {
 // The ring of the focus is seen on light and dark: white within, dark without.
 constexpr const char* style = R"(
 window.nurva-card-window { background: none; box-shadow: none; border-radius: 0; }
-nurva-control { border-radius: 7px; }
+nurva-control { border-radius: 5px; }
 nurva-control:focus:focus-visible {
     outline: 2px solid white;
     outline-offset: 0;
@@ -22,6 +22,7 @@ nurva-card:focus:focus-visible { outline: 2px solid white; outline-offset: -5px;
 .nurva-stopped { color: #e8ebec; margin: 12px; }
 .nurva-stopped-title { font-weight: 600; font-size: 12px; }
 .nurva-stopped-line { color: #98a0a4; font-size: 11px; }
+popover.nurva-opaque > contents { margin: 0; border-radius: 0; box-shadow: none; }
 .nurva-gallery-name { font-weight: 600; }
 )";
 

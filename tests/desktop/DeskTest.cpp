@@ -6,8 +6,12 @@
 
 #include <gmock/gmock.h>
 
+#include <chrono>
+#include <cmath>
+#include <filesystem>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -28,7 +32,8 @@ struct DeskOnScreen : testing::Test {
         screen::movePointer(1279, 799);
         desk.emplace(Desk::Surroundings{.display = gdk_display_get_default(),
                                         .scale = std::nullopt,
-                                        .onEmpty = [this] { isEmpty = true; }},
+                                        .onEmpty = [this] { isEmpty = true; },
+                                        .patience = std::chrono::milliseconds(50)},
                      source, mount, file());
         desk->open();
         screen::settle();
@@ -98,6 +103,7 @@ TEST_F(DeskOnScreen, WaitsForTheGalleryTheFirstTime) {
     const auto shelf = std::exchange(source.shelf, {});
     open();
     EXPECT_TRUE(desk->cards().empty());
+    EXPECT_TRUE(screen::waitFor([&] { return desk->gallery() != nullptr; })) << "and says so";
     source.shelf = shelf;
     source.galleryChanged();
     EXPECT_TRUE(screen::waitFor([&] { return desk->cards().size() == 4; }));

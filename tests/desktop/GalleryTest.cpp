@@ -35,9 +35,7 @@ struct GalleryOnScreen : testing::Test {
         find(
             GTK_WIDGET(gallery.window()),
             [&](GtkWidget* widget) {
-                return GTK_IS_BUTTON(widget) &&
-                       !gtk_test_accessible_check_property(
-                           GTK_ACCESSIBLE(widget), GTK_ACCESSIBLE_PROPERTY_LABEL, label.c_str());
+                return GTK_IS_BUTTON(widget) && screen::isCalled(widget, label);
             },
             found);
         return found;

@@ -3,10 +3,12 @@
 
 #include <memory>
 
-/// The widget host with painted faces, for tests of the program.
+/// The widget host with painted faces, for tests of the program. Its extension may be called
+/// "stopped".
 int main(int argumentCount, char** arguments) {
-    return desktop::run(argumentCount, arguments, [](const std::filesystem::path&) {
+    return desktop::run(argumentCount, arguments, [](const std::filesystem::path& extension) {
         auto widgets = std::make_unique<desktop::PaintedWidgets>();
+        widgets->isStopped = extension == "stopped";
         for (const auto& widget : widgets->shelf)
             widgets->faces[widget.kind].elements = {
                 desktop::button("Press", {20, 100, 60, 30}),

@@ -194,6 +194,14 @@ bool hasState(WindowNumber window, const char* state) {
            states.end();
 }
 
+bool isCalled(GtkWidget* widget, const std::string& name) {
+    const std::unique_ptr<char, decltype(&g_free)> fault(
+        gtk_test_accessible_check_property(GTK_ACCESSIBLE(widget), GTK_ACCESSIBLE_PROPERTY_LABEL,
+                                           name.c_str()),
+        g_free);
+    return !fault;
+}
+
 void movePointer(double x, double y) {
     XTestFakeMotionEvent(server(), 0, static_cast<int>(x), static_cast<int>(y), 0);
     settle();

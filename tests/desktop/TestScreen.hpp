@@ -39,6 +39,9 @@ std::uint32_t pixel(int x, int y);
 std::vector<unsigned long> property(WindowNumber window, const char* name);
 bool hasState(WindowNumber window, const char* state);
 
+/// Whether a screen reader is told this name of a widget.
+bool isCalled(GtkWidget* widget, const std::string& name);
+
 void movePointer(double x, double y);
 void holdButton(unsigned button = 1);
 void releaseButton(unsigned button = 1);
