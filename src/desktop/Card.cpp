@@ -158,15 +158,15 @@ void Card::snapshotPicture(GtkSnapshot* snapshot) const {
         return std::abs(exact - wanted) < 1 ? exact : wanted;
     };
     GdkTexture* picture = picture_.get();
-    const graphene_rect_t place =
-        GRAPHENE_RECT_INIT(0, 0, length(gdk_texture_get_width(picture), size_.width),
-                           length(gdk_texture_get_height(picture), size_.height));
+    const graphene_rect_t place{{0, 0},
+                                {length(gdk_texture_get_width(picture), size_.width),
+                                 length(gdk_texture_get_height(picture), size_.height)}};
     gtk_snapshot_append_texture(snapshot, picture, &place);
 }
 
 void Card::snapshotPlainCard(GtkSnapshot* snapshot) const {
     const auto units = [&](double points) { return static_cast<float>(points * unitsPerPoint_); };
-    const graphene_rect_t place = GRAPHENE_RECT_INIT(0, 0, units(size_.width), units(size_.height));
+    const graphene_rect_t place{{0, 0}, {units(size_.width), units(size_.height)}};
     GskRoundedRect card;
     gsk_rounded_rect_init_from_rect(&card, &place, units(cornerRadius));
     gtk_snapshot_push_rounded_clip(snapshot, &card);

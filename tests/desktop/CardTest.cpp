@@ -188,9 +188,9 @@ TEST_F(CardOnScreen, TabAndArrowsGoFromButtonToButton) {
 TEST_F(CardOnScreen, EnterAndSpacePressAtOnce) {
     show(elements);
     gtk_widget_grab_focus(children()[2]);
-    for (const unsigned key : {GDK_KEY_Return, GDK_KEY_space, GDK_KEY_KP_Enter}) {
+    for (const int key : {GDK_KEY_Return, GDK_KEY_space, GDK_KEY_KP_Enter}) {
         presses.clear();
-        screen::pressKey(key);
+        screen::pressKey(static_cast<unsigned>(key));
         EXPECT_EQ(presses, std::vector<std::string>{"press Plus"}) << key;
     }
 }
