@@ -22,6 +22,7 @@ struct CardState {
     canvas::PixelSize size;
     std::uint64_t lentTo = 0;  // number of the extension's process that has the memory
 
+    bool showsAnything = false;
     std::optional<foundation::Date> reloadAfter;
     int stops = 0;  // of the extension, one after the other, while it was asked for this face
 };

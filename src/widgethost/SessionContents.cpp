@@ -123,6 +123,8 @@ void Session::Contents::stopped() {
             else
                 showStopped(*culprit);
         }
+    } else if (introduced_ != supervisor_.number()) {
+        supervisor_.blame();
     }
     askNext();
 }
@@ -130,7 +132,9 @@ void Session::Contents::stopped() {
 void Session::Contents::askNext() {
     while (!asked_ && !waiting_.empty()) {
         ExtensionLink* const link = supervisor_.link();
-        if (!link || introduced_ != supervisor_.number())
+        if (!link)
+            return showThatNothingComes();
+        if (introduced_ != supervisor_.number())
             return;
         const Slot slot = waiting_.front();
         waiting_.pop_front();
@@ -174,6 +178,7 @@ void Session::Contents::answered(Slot slot, const std::optional<remote::Face>& f
     if (!face)
         return showStopped(*card);
     card->stops = 0;
+    card->showsAnything = true;
     card->reloadAfter = face->reloadAfter;
     if (card->reloadAfter)
         card->reloadAfter->secondsSinceReferenceDate =
@@ -191,7 +196,15 @@ void Session::Contents::answered(Slot slot, const std::optional<remote::Face>& f
 
 void Session::Contents::showStopped(CardState& card) {
     card.reloadAfter.reset();
+    card.showsAnything = true;
     card.show({});
+}
+
+void Session::Contents::showThatNothingComes() {
+    const std::deque<Slot> waiting = waiting_;
+    for (const Slot slot : waiting)
+        if (CardState* const empty = card(slot); empty && !empty->showsAnything)
+            showStopped(*empty);
 }
 
 CardState* Session::Contents::card(Slot slot) {

@@ -43,6 +43,7 @@ struct Session::Contents {
     void lend(ExtensionLink& link, Slot slot);
     void answered(Slot slot, const std::optional<remote::Face>& face);
     void showStopped(CardState& card);
+    void showThatNothingComes();
     CardState* card(Slot slot);
 
     void askWhoIsDue();

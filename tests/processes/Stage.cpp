@@ -24,7 +24,8 @@ Stage::Stage() {
     ::setenv("NURVA_BUNDLE", NURVA_RESOURCES_FOLDER "/NurvaWidgets.appex", 1);
     ::setenv("LC_ALL", "C.UTF-8", 1);
     ::setenv("LANGUAGE", "es", 1);
-    // What looks for leaks at a process's end would have to trace it, which its confinement forbids.
+    // What looks for leaks at a process's end would have to trace it, which its confinement
+    // forbids.
     ::setenv("ASAN_OPTIONS", "detect_leaks=0", 1);
 }
 

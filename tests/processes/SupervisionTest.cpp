@@ -1,8 +1,12 @@
 #include "processes/Stage.hpp"
+#include "support/Program.hpp"
+#include "support/TemporaryFolder.hpp"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <csignal>
+#include <filesystem>
 
 namespace {
 
@@ -135,19 +139,28 @@ TEST(Supervision, SaysThatAnExtensionCannotBeStarted) {
     {
         Session session({.extension = "/nonexistent/extension"});
         const Viewer viewer(session, room);
-        letPass(20ms);
-        EXPECT_EQ(viewer.shown, 0);
+        EXPECT_TRUE(soon([&] { return viewer.shown == 1; }));
+        EXPECT_FALSE(viewer.face);
     }
     EXPECT_NE(testing::internal::GetCapturedStderr().find("/nonexistent/extension"),
               std::string::npos);
 }
 
-TEST(Supervision, OutlivesAnExtensionThatSpeaksNonsense) {
+TEST(Supervision, OutlivesAnExtensionThatEndsAtOnceOrSpeaksNonsense) {
+    const support::TemporaryFolder folder;
+    const auto starts = folder.path() / "starts";
+    const auto nonsense = folder.write(
+        "nonsense", "#!/bin/sh\necho start >>'" + starts.string() + "'\necho hello >&3\n");
+    std::filesystem::permissions(nonsense, std::filesystem::perms::owner_all);
     const Stage stage;
-    Session session({.extension = "/bin/cat"});
+    Session session({.extension = nonsense});
     const Viewer viewer(session, room);
-    letPass(100ms);
+    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
     EXPECT_FALSE(viewer.face);
+    letPass(200ms);
+    const std::string started = support::contentsOf(starts);
+    EXPECT_LE(std::ranges::count(started, '\n'), 6);
+    EXPECT_EQ(viewer.shown, 1);
 }
 
 }  // namespace
