@@ -24,6 +24,24 @@ EstadoParaWidgets ejemploCon(const Cambio& cambiar) {
     return estado;
 }
 
+struct Lengua {
+    std::string nombre;
+    std::string codigo;
+};
+
+/// Adds a sample in every language that the host application may choose besides Spanish.
+void agregarLenguas(std::vector<Muestra>& muestras,
+                    const std::string& nombre,
+                    const std::string& kind,
+                    EstadoParaWidgets estado) {
+    const std::vector<Lengua> lenguas{{"ingles", "en"},  {"catalan", "ca"}, {"portugues", "pt"},
+                                      {"frances", "fr"}, {"aleman", "de"},  {"italiano", "it"}};
+    for (const Lengua& lengua : lenguas) {
+        estado.idioma = lengua.codigo;
+        muestras.push_back({nombre + "-" + lengua.nombre, kind, estado});
+    }
+}
+
 std::vector<Muestra> queEstaPuesto() {
     const std::string kind = "nurva.queEstaPuesto";
     return {
@@ -72,7 +90,7 @@ std::vector<Muestra> volumenPorApp() {
     std::vector<AppCorta> ocho;
     for (int i = 1; i <= 8; ++i)
         ocho.push_back(app("Aplicación " + std::to_string(i), i / 8.0));
-    return {
+    std::vector<Muestra> muestras{
         volumen("tres", tres),
         volumen("ninguna", {}),
         volumen("una", {app("Música", 0.5)}),
@@ -88,14 +106,12 @@ std::vector<Muestra> volumenPorApp() {
              e.apps = tres;
              e.dejaCambiar = false;
          })},
-        {"volumen-ingles", kind, ejemploCon([&](auto& e) {
-             e.apps = tres;
-             e.idioma = "en";
-         })},
         {"volumen-cerrado", kind,
          ejemploCon([](auto& e) { e.cuando = support::noon.addingTimeInterval(-900); })},
         {"volumen-sin-estado", kind, std::nullopt},
     };
+    agregarLenguas(muestras, "volumen", kind, ejemploCon([&](auto& e) { e.apps = tres; }));
+    return muestras;
 }
 
 PerfilCorto perfil(const std::string& nombre, std::vector<double> curva, bool puesto = false) {
@@ -115,7 +131,7 @@ std::vector<Muestra> ponerUnPerfil() {
     const std::vector<PerfilCorto> cuatro{perfil("Música", onda), perfil("Voz clara", subida, true),
                                           perfil("Cine", {12, 6, 0, 0, 3}),
                                           perfil("Noche", {-12, 0})};
-    return {
+    std::vector<Muestra> muestras{
         perfiles("cuatro", cuatro),
         perfiles("ninguno", {}),
         perfiles("uno", {perfil("Voz clara", subida, true)}),
@@ -136,14 +152,12 @@ std::vector<Muestra> ponerUnPerfil() {
              e.perfiles = cuatro;
              e.dejaCambiar = false;
          })},
-        {"perfiles-ingles", kind, ejemploCon([&](auto& e) {
-             e.perfiles = cuatro;
-             e.idioma = "en";
-         })},
         {"perfiles-cerrado", kind,
          ejemploCon([](auto& e) { e.cuando = support::noon.addingTimeInterval(-900); })},
         {"perfiles-sin-estado", kind, std::nullopt},
     };
+    agregarLenguas(muestras, "perfiles", kind, ejemploCon([&](auto& e) { e.perfiles = cuatro; }));
+    return muestras;
 }
 
 std::vector<Muestra> tuCuarto() {
