@@ -20,7 +20,9 @@ function(nurva_room name)
     cmake_parse_arguments(ARG "" "" "SOURCES;ROOMS;LIBRARIES" ${ARGN})
     list(TRANSFORM ARG_ROOMS PREPEND nurva_)
     add_library(nurva_${name} STATIC ${ARG_SOURCES})
-    target_link_libraries(nurva_${name} PUBLIC nurva_options ${ARG_ROOMS} PRIVATE ${ARG_LIBRARIES})
+    # The options are for those who build the room, not for those who install it.
+    target_link_libraries(nurva_${name}
+        PUBLIC $<BUILD_INTERFACE:nurva_options> ${ARG_ROOMS} PRIVATE ${ARG_LIBRARIES})
 endfunction()
 
 # The tests of one room, as one program. The room is linked whole with nothing but the rooms it names,
