@@ -1,5 +1,5 @@
 # What the author of a host application gets: the room `enlace` with the rooms below it, the headers that
-# its own ones include, and a CMake package.
+# its own ones include, a CMake package, and the form of both files.
 include(CMakePackageConfigHelpers)
 
 set(package ${CMAKE_INSTALL_LIBDIR}/cmake/NurvaWidgets)
@@ -37,3 +37,5 @@ install(FILES
     ${PROJECT_BINARY_DIR}/NurvaWidgetsConfig.cmake
     ${PROJECT_BINARY_DIR}/NurvaWidgetsConfigVersion.cmake
     DESTINATION ${package} COMPONENT development)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/schema
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/nurva-widgets COMPONENT development)
