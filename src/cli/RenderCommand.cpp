@@ -109,7 +109,8 @@ void addRender(CLI::App& app) {
     command.add_option("--family-size", options->familySize,
                        message("Otro tamaño de la tarjeta, en puntos: ANCHOxALTO"));
     command.add_option("--format", options->format, message("png, svg o json"))
-        ->check(CLI::IsMember({"png", "svg", "json"}));
+        ->check(CLI::IsMember({"png", "svg", "json"}))
+        ->option_text(message("TEXTO"));
     command.add_option("-o,--output", options->output,
                        message("Archivo donde se escribe; si falta, la salida"));
     command.callback([options] { render(*options); });

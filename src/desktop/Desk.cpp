@@ -2,6 +2,7 @@
 
 #include "desktop/Explanation.hpp"
 #include "desktop/Zoom.hpp"
+#include "platform/foundation/Message.hpp"
 #include "widgethost/Arrangement.hpp"
 
 #include <algorithm>
@@ -144,8 +145,11 @@ void Desk::add(const std::string& kind) {
     const Screens now = screens();
     const auto span = Grid::span(widgets::cardSize(found->families.front()));
     const auto spot = boardWithout(nullptr, placement_, now.monitors).first(span);
-    if (!spot)
+    if (!spot) {
+        if (gallery_)
+            gallery_->say(foundation::message("Ya no cabe ninguno más: quita antes otro."));
         return;
+    }
     PlacedWidget& widget =
         placement_.widgets.emplace_back(PlacedWidget{.kind = kind, .span = span});
     settle(widget, *spot, now.monitors);

@@ -61,6 +61,7 @@ Gallery::Gallery(WidgetSource& source, double unitsPerPoint, bool canPlace, Requ
       requests_(std::move(requests)),
       window_(GTK_WINDOW(gtk_window_new())),
       offers_(gtk_box_new(GTK_ORIENTATION_VERTICAL, 18)),
+      notice_(text({}, "nurva-gallery-name")),
       placed_(gtk_box_new(GTK_ORIENTATION_VERTICAL, 6)) {
     gtk_window_set_title(window_, message("Widgets de Nurva").c_str());
     gtk_window_set_default_size(window_, 700, 620);
@@ -68,6 +69,8 @@ Gallery::Gallery(WidgetSource& source, double unitsPerPoint, bool canPlace, Requ
     setMargins(contents, 24);
     gtk_box_append(GTK_BOX(contents), offers_);
     gtk_box_append(GTK_BOX(contents), gtk_separator_new(GTK_ORIENTATION_HORIZONTAL));
+    gtk_box_append(GTK_BOX(contents), notice_);
+    gtk_widget_set_visible(notice_, FALSE);
     gtk_box_append(GTK_BOX(contents), placed_);
     GtkWidget* scrolled = gtk_scrolled_window_new();
     gtk_scrolled_window_set_child(GTK_SCROLLED_WINDOW(scrolled), contents);
@@ -152,6 +155,7 @@ GtkWidget* Gallery::sample(const remote::WidgetDescription& widget) {
 void Gallery::showPlaced(const std::vector<std::string>& names) {
     if (names == names_ && gtk_widget_get_first_child(placed_))
         return;
+    gtk_widget_set_visible(notice_, FALSE);
     const std::size_t focused = focusedRow();
     names_ = names;
     removeButtons_.clear();
@@ -167,6 +171,11 @@ void Gallery::showPlaced(const std::vector<std::string>& names) {
     // Whoever takes away one after the other with the keyboard goes on in the same place.
     if (focused < removeButtons_.size() + 1 && !removeButtons_.empty())
         gtk_widget_grab_focus(removeButtons_[std::min(focused, removeButtons_.size() - 1)]);
+}
+
+void Gallery::say(const std::string& notice) {
+    gtk_label_set_text(GTK_LABEL(notice_), notice.c_str());
+    gtk_widget_set_visible(notice_, TRUE);
 }
 
 GtkWidget* Gallery::placedRow(std::size_t index) {

@@ -38,6 +38,9 @@ class Gallery {
     /// Shows the names of the widgets on the desktop.
     void showPlaced(const std::vector<std::string>& names);
 
+    /// Says something about the last request, until the placed widgets are others.
+    void say(const std::string& notice);
+
     GtkWindow* window() const { return window_; }
 
   private:
@@ -57,6 +60,7 @@ class Gallery {
     Requests requests_;
     GtkWindow* window_;
     GtkWidget* offers_;
+    GtkWidget* notice_;
     GtkWidget* placed_;
     std::vector<Sample> samples_;
     std::vector<std::string> names_;  // of the placed widgets

@@ -44,12 +44,14 @@ std::filesystem::path ownProgram() {
 Options Options::of(int argumentCount, char** arguments) {
     gboolean windows = FALSE;
     gboolean gallery = FALSE;
+    gboolean requireSandbox = FALSE;
     double scale = notGiven;
     char* extension = nullptr;
     const std::string aboutWindows = message("Pone los widgets en ventanas normales");
     const std::string aboutGallery = message("Abre la galería de widgets");
     const std::string aboutScale = message("Píxeles por punto, si no valen los de la pantalla");
     const std::string aboutExtension = message("El programa de la extensión");
+    const std::string aboutSandbox = message("No arranca la extensión sin su aislamiento entero");
     const std::string number = message("NÚMERO");
     const std::string file = message("ARCHIVO");
     const GOptionEntry entries[] = {
@@ -58,6 +60,8 @@ Options Options::of(int argumentCount, char** arguments) {
         {"scale", 0, 0, G_OPTION_ARG_DOUBLE, &scale, aboutScale.c_str(), number.c_str()},
         {"extension", 0, 0, G_OPTION_ARG_FILENAME, &extension, aboutExtension.c_str(),
          file.c_str()},
+        {"require-sandbox", 0, 0, G_OPTION_ARG_NONE, &requireSandbox, aboutSandbox.c_str(),
+         nullptr},
         {},
     };
     const std::unique_ptr<GOptionContext, FreeContext> context(g_option_context_new(nullptr));
@@ -79,7 +83,9 @@ Options Options::of(int argumentCount, char** arguments) {
     Options options{.windows = windows != FALSE, .gallery = gallery != FALSE};
     if (scale != notGiven)
         options.scale = scale;
-    options.extension = path ? std::filesystem::path(path.get()) : extensionBeside(ownProgram());
+    options.session.requiresSandbox = requireSandbox != FALSE;
+    options.session.extension =
+        path ? std::filesystem::path(path.get()) : extensionBeside(ownProgram());
     return options;
 }
 

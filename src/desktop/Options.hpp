@@ -1,8 +1,8 @@
 #pragma once
 
-#include <filesystem>
+#include "widgethost/Session.hpp"
+
 #include <optional>
-#include <string>
 
 namespace desktop {
 
@@ -11,7 +11,7 @@ struct Options {
     bool windows = false;
     bool gallery = false;
     std::optional<double> scale;  // pixels per point
-    std::filesystem::path extension;
+    widgethost::SessionOptions session;
 
     /// Throws std::invalid_argument with a text for the user.
     static Options of(int argumentCount, char** arguments);

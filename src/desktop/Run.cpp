@@ -58,7 +58,7 @@ struct Host {
          GApplication* application)
         : mount(chooseMount(gdk_display_get_default(),
                             options.windows ? Wanted::windows : Wanted::desktop)),
-          source(makeSource(options.extension)),
+          source(makeSource(options.session)),
           desk({.display = gdk_display_get_default(),
                 .scale = options.scale,
                 .onEmpty = [application] { g_application_quit(application); }},

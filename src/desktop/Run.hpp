@@ -2,15 +2,14 @@
 
 #include "desktop/WidgetSource.hpp"
 
-#include <filesystem>
 #include <functional>
 #include <memory>
 
 namespace desktop {
 
-/// Makes the source of faces from the extension's program.
+/// Makes the source of faces.
 using MakeSource =
-    std::function<std::unique_ptr<WidgetSource>(const std::filesystem::path& extension)>;
+    std::function<std::unique_ptr<WidgetSource>(const widgethost::SessionOptions& options)>;
 
 /// The widget host's program, until it is asked to end or nothing of it is left to be seen; where
 /// it runs already, that one opens its gallery. Returns its exit status: 0 done, 1 could not, 2

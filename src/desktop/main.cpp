@@ -4,8 +4,7 @@
 #include <memory>
 
 int main(int argumentCount, char** arguments) {
-    return desktop::run(argumentCount, arguments, [](const std::filesystem::path& extension) {
-        return std::make_unique<desktop::SessionSource>(
-            widgethost::SessionOptions{.extension = extension});
+    return desktop::run(argumentCount, arguments, [](const widgethost::SessionOptions& options) {
+        return std::make_unique<desktop::SessionSource>(options);
     });
 }

@@ -108,6 +108,25 @@ TEST_F(GalleryOnScreen, ListsWhatStandsOnTheDesktop) {
     EXPECT_TRUE(labelled("Recolocar todos").empty());
 }
 
+TEST_F(GalleryOnScreen, SaysSomethingUntilTheListIsAnotherOne) {
+    const auto isSaid = [&] {
+        std::vector<GtkWidget*> found;
+        find(
+            GTK_WIDGET(gallery.window()),
+            [](GtkWidget* widget) {
+                return GTK_IS_LABEL(widget) && gtk_widget_get_mapped(widget) &&
+                       gtk_label_get_text(GTK_LABEL(widget)) == std::string("No cabe");
+            },
+            found);
+        return found.size() == 1;
+    };
+    EXPECT_FALSE(isSaid());
+    gallery.say("No cabe");
+    EXPECT_TRUE(screen::waitFor(isSaid));
+    gallery.showPlaced({"Alfa"});
+    EXPECT_TRUE(screen::waitFor([&] { return !isSaid(); }));
+}
+
 TEST_F(GalleryOnScreen, TheFocusStaysInTheListAsItShrinks) {
     gtk_widget_grab_focus(labelled("Quitar Beta").at(0));
     gallery.showPlaced({"Alfa"});

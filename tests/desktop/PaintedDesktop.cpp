@@ -6,9 +6,9 @@
 /// The widget host with painted faces, for tests of the program. Its extension may be called
 /// "stopped".
 int main(int argumentCount, char** arguments) {
-    return desktop::run(argumentCount, arguments, [](const std::filesystem::path& extension) {
+    return desktop::run(argumentCount, arguments, [](const widgethost::SessionOptions& options) {
         auto widgets = std::make_unique<desktop::PaintedWidgets>();
-        widgets->isStopped = extension == "stopped";
+        widgets->isStopped = options.extension == "stopped";
         for (const auto& widget : widgets->shelf)
             widgets->faces[widget.kind].elements = {
                 desktop::button("Press", {20, 100, 60, 30}),
