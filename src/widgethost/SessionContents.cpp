@@ -1,7 +1,7 @@
 #include "widgethost/SessionContents.hpp"
 
-#include "platform/foundation/DefaultFileManager.hpp"
 #include "platform/foundation/Entitlements.hpp"
+#include "widgethost/ContainerWatch.hpp"
 
 #include <algorithm>
 #include <utility>
@@ -16,16 +16,6 @@ constexpr double shortestReload = 1;  // seconds
 /// So often the extension stops under a card before the card is given up: once is an accident.
 constexpr int stopsOfACulprit = 2;
 
-/// The files of a container whose change is a reason to ask again.
-std::vector<std::string> reloadFiles(const foundation::Bundle& bundle) {
-    const auto extension = bundle.objectForInfoDictionaryKey("NSExtension");
-    const auto* const members = extension ? extension->dictionary() : nullptr;
-    const auto found = members ? members->find("NSExtensionAttributes")
-                               : foundation::PropertyList::Dictionary::const_iterator();
-    return members && found != members->end() ? found->second.strings("WidgetReloadFiles")
-                                              : std::vector<std::string>();
-}
-
 }  // namespace
 
 Session::Contents::Contents(const SessionOptions& options)
@@ -36,10 +26,12 @@ Session::Contents::Contents(const SessionOptions& options)
                   {.onStarted = [this] { started(); },
                    .onStopped = [this] { stopped(); },
                    .onMayStart = [this] { askNext(); },
-                   .onPost = [this](const std::string& name) { post(name); }}) {
+                   .onPost = [this](const std::string& name) { post(name); }}),
+      watches_(watchContainers(
+          foundation::Bundle::main(),
+          {.onFile = [this] { pacing.ask({}); }, .onFolder = [this] { restart(); }})) {
     if (!options.isAlone)
         center_.emplace([this](const std::string& kind) { pacing.ask(kind); });
-    watchContainers();
     supervisor_.link();
 }
 
@@ -236,16 +228,6 @@ void Session::Contents::setTimer() {
 void Session::Contents::post(const std::string& name) {
     if (center_ && std::ranges::find(notifications_, name) != notifications_.end())
         center_->post(name);
-}
-
-void Session::Contents::watchContainers() {
-    const foundation::Bundle bundle = foundation::Bundle::main();
-    const foundation::DefaultFileManager files;
-    for (const std::string& group : foundation::Entitlements::of(bundle).applicationGroups)
-        if (const auto container = files.containerPlace(group))
-            watches_.emplace_back(*container, reloadFiles(bundle),
-                                  FolderWatch::Events{.onFile = [this] { pacing.ask({}); },
-                                                      .onFolder = [this] { restart(); }});
 }
 
 void Session::Contents::restart() {

@@ -50,7 +50,6 @@ struct Session::Contents {
     void setTimer();
 
     void post(const std::string& name);
-    void watchContainers();
     void restart();
 
     std::map<Slot, CardState> cards_;
@@ -63,8 +62,8 @@ struct Session::Contents {
     WallClockTimer timer_;
     std::vector<std::string> notifications_;  // that the extension may send
     std::optional<WidgetCenterService> center_;
-    std::list<FolderWatch> watches_;
     Supervisor supervisor_;
+    std::list<FolderWatch> watches_;
 };
 
 }  // namespace widgethost

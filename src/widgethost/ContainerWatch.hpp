@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/foundation/Bundle.hpp"
+#include "widgethost/FolderWatch.hpp"
+
+#include <list>
+
+namespace widgethost {
+
+/// Watches the containers of the groups that an extension's bundle is entitled to, for the files
+/// that the bundle calls a reason to reload. Throws std::system_error where the system has no watch
+/// left.
+std::list<FolderWatch> watchContainers(const foundation::Bundle& bundle,
+                                       const FolderWatch::Events& events);
+
+}  // namespace widgethost
