@@ -7,11 +7,26 @@
 #include "platform/foundation/FileError.hpp"
 #include "platform/foundation/json/JSONDecoder.hpp"
 
+#include <cstdio>
 #include <cstring>
 
 namespace cli {
 
 namespace {
+
+/// Of a fault that belongs to the whole text: it is no JSON, or has a number that no field can
+/// hold.
+std::string reasonWithoutPlace(const std::string& description) {
+    const std::string malformed = foundation::DecodingError::malformed().debugDescription;
+    if (!description.starts_with(malformed))
+        return message("un número no cabe en su sitio: %@", {description});
+    long long line = 0;
+    long long column = 0;
+    if (std::sscanf(description.c_str() + malformed.size(), " (line %lld, column %lld)", &line,
+                    &column) != 2)
+        return message("no es JSON válido en UTF-8");
+    return message("no es JSON válido en UTF-8: línea %lld, columna %lld", {line, column});
+}
 
 std::string reason(const foundation::DecodingError& error) {
     using Kind = foundation::DecodingError::Kind;
@@ -25,8 +40,9 @@ std::string reason(const foundation::DecodingError& error) {
         case Kind::dataCorrupted:
             break;
     }
-    return error.codingPath.empty() ? message("no es JSON válido en UTF-8")
-                                    : message("el valor no cabe o está mal escrito");
+    if (!error.codingPath.empty())
+        return message("el valor no cabe o está mal escrito");
+    return reasonWithoutPlace(error.debugDescription);
 }
 
 }  // namespace

@@ -283,6 +283,16 @@ TEST_F(CommandLine, SaysWhetherARequestIsAccepted) {
               "typeMismatch");
 }
 
+TEST_F(CommandLine, SaysWhereATextIsNoJSONAndWhichNumberDoesNotFit) {
+    EXPECT_NE(nurva("check " + file("{\"perfil\":\n  x}")).output.find("línea 2, columna 3"),
+              std::string::npos);
+    json odd = snapshot();
+    odd["acento"] = 1.5;
+    const Outcome outcome = nurva("check " + file(odd.dump()));
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_NE(outcome.output.find("<1.5>"), std::string::npos) << outcome.output;
+}
+
 TEST_F(CommandLine, StopsAtALevelThatCannotBeShownAndSaysSo) {
     json loud = snapshot();
     loud["apps"][0]["nivel"] = 1e300;
