@@ -1,0 +1,79 @@
+#include "journeys/ScreenReader.hpp"
+#include "journeys/UserSession.hpp"
+#include "journeys/Waiting.hpp"
+#include "journeys/WidgetHost.hpp"
+#include "journeys/Widgets.hpp"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace journeys {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// A snapshot that the volume's widget cannot show: a level that is no number of per cent.
+nurva::EstadoParaWidgets unbearable() {
+    auto estado = scene("musica");
+    estado.apps.front().nivel = 1e300;
+    return estado;
+}
+
+struct Stopped : testing::Test {
+    Stopped() {
+        session.container.publish(scene("musica"));
+        host.emplace();
+        reader.emplace();
+        EXPECT_TRUE(isSeenAsDrawn(volume, session.screen));
+    }
+    bool hasStopped() { return reader->await(volume.name, "Este widget se ha parado").has_value(); }
+
+    UserSession session;
+    std::optional<WidgetHost> host;
+    std::optional<ScreenReader> reader;
+};
+
+TEST_F(Stopped, OneCardSaysSoWhileTheOthersLiveOn) {
+    session.container.publish(unbearable());
+    ASSERT_TRUE(hasStopped());
+    auto later = unbearable();
+    later.perfil = "Cine";
+    session.container.publish(later);
+    EXPECT_TRUE(isSeenAsDrawn(whatIsOn, session.screen));
+    EXPECT_TRUE(isSeenAsDrawn(profiles, session.screen));
+    EXPECT_TRUE(hasStopped());
+}
+
+TEST_F(Stopped, ACardIsWellAgainWithinASecondOfAGoodSnapshot) {
+    session.container.publish(scene("musica"));
+    const Picture good = drawnByCommandLine(volume);
+    for (int turn = 0; turn < times(2, 100); ++turn) {
+        session.container.publish(unbearable());
+        ASSERT_TRUE(hasStopped());
+        session.container.publish(scene("musica"));
+        EXPECT_TRUE(soon([&] { return isSeen(good, session.screen.pictureOf(volume.name)); }, 1s));
+    }
+}
+
+TEST_F(Stopped, TheExtensionIsNotStartedOverAndOver) {
+    std::set<pid_t> started;
+    int turn = 0;
+    soon(
+        [&] {
+            if (turn++ % 20 == 0)
+                session.container.publish(unbearable());
+            if (const pid_t extension = host->extension(); extension != 0)
+                started.insert(extension);
+            return false;
+        },
+        3s);
+    EXPECT_GE(started.size(), 2u);
+    EXPECT_LE(started.size(), 6u);  // the first, and five more
+    EXPECT_TRUE(hasStopped());
+    session.container.publish(scene("musica"));
+    EXPECT_TRUE(isSeenAsDrawn(whatIsOn, session.screen));
+}
+
+}  // namespace
+}  // namespace journeys
