@@ -25,6 +25,10 @@ function(nurva_room name)
         PUBLIC $<BUILD_INTERFACE:nurva_options> ${ARG_ROOMS} PRIVATE ${ARG_LIBRARIES})
 endfunction()
 
+# A complaint of GLib or Pango is a fault of ours; what the libraries never free is not.
+set(NURVA_TEST_ENVIRONMENT
+    "G_DEBUG=fatal-criticals;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
+
 # The tests of one room, as one program. The room is linked whole with nothing but the rooms it names,
 # so a room that reaches for one above it does not link.
 function(nurva_test room)
@@ -39,7 +43,5 @@ function(nurva_test room)
         "$<LINK_LIBRARY:WHOLE_ARCHIVE,nurva_${room}>" ${ARG_ROOMS} ${ARG_LIBRARIES}
         GTest::gmock GTest::gtest_main)
     add_test(NAME ${room} COMMAND ${room}_test)
-    # A complaint of GLib or Pango is a fault of ours; what the libraries never free is not.
-    set_tests_properties(${room} PROPERTIES TIMEOUT 300 ENVIRONMENT
-        "G_DEBUG=fatal-criticals;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
+    set_tests_properties(${room} PROPERTIES TIMEOUT 300 ENVIRONMENT "${NURVA_TEST_ENVIRONMENT}")
 endfunction()

@@ -16,7 +16,7 @@ class RateLimit {
 
     /// From when on it may happen again; in the past while it may.
     Instant earliest() const {
-        return happened_.size() < most_ ? Instant::min() : happened_.front() + span_;
+        return happened_.size() < most_ ? Instant() : happened_.front() + span_;
     }
 
     /// Takes note that it happens now.
