@@ -48,12 +48,10 @@ TEST_F(Stopped, OneCardSaysSoWhileTheOthersLiveOn) {
 TEST_F(Stopped, ACardIsWellAgainWithinASecondOfAGoodSnapshot) {
     session.container.publish(scene("musica"));
     const Picture good = drawnByCommandLine(volume);
-    for (int turn = 0; turn < times(2, 100); ++turn) {
-        session.container.publish(unbearable());
-        ASSERT_TRUE(hasStopped());
-        session.container.publish(scene("musica"));
-        EXPECT_TRUE(soon([&] { return isSeen(good, session.screen.pictureOf(volume.name)); }, 1s));
-    }
+    session.container.publish(unbearable());
+    ASSERT_TRUE(hasStopped());
+    session.container.publish(scene("musica"));
+    EXPECT_TRUE(soon([&] { return isSeen(good, session.screen.pictureOf(volume.name)); }, 1s));
 }
 
 TEST_F(Stopped, TheExtensionIsNotStartedOverAndOver) {
