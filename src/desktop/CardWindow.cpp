@@ -30,6 +30,8 @@ CardWindow::CardWindow(const Widget& widget,
     mount_.prepare(window_);
     if (mount_.placesWindows())
         standFree();
+    else
+        gtk_widget_add_css_class(GTK_WIDGET(window_), "nurva-framed-card");
     listen();
     display_ = source_.display(widget.kind, scale_,
                                [this](const widgethost::Shown& shown) { card_.show(shown); });
@@ -68,11 +70,19 @@ void CardWindow::listen() {
     GtkEventController* keys = gtk_event_controller_key_new();
     connect<gboolean(unsigned, unsigned, GdkModifierType)>(
         keys, "key-pressed", [this](unsigned key, unsigned, GdkModifierType modifiers) {
+            showFocus(true);
             return static_cast<gboolean>(press(key, modifiers));
         });
     // Before the window itself, which has its own mind about the arrows.
     gtk_event_controller_set_propagation_phase(keys, GTK_PHASE_CAPTURE);
     gtk_widget_add_controller(window, keys);
+
+    GtkGesture* touch = gtk_gesture_click_new();
+    gtk_gesture_single_set_button(GTK_GESTURE_SINGLE(touch), 0);
+    gtk_event_controller_set_propagation_phase(GTK_EVENT_CONTROLLER(touch), GTK_PHASE_CAPTURE);
+    connect<void(int, double, double)>(touch, "pressed",
+                                       [this](int, double, double) { showFocus(false); });
+    gtk_widget_add_controller(window, GTK_EVENT_CONTROLLER(touch));
 
     GtkGesture* click = gtk_gesture_click_new();
     gtk_gesture_single_set_button(GTK_GESTURE_SINGLE(click), GDK_BUTTON_SECONDARY);
@@ -80,6 +90,14 @@ void CardWindow::listen() {
         openMenu(views::Point{x, y});
     });
     gtk_widget_add_controller(card_.widget(), GTK_EVENT_CONTROLLER(click));
+}
+
+/// The toolkit lets the ring of the focus vanish while the keyboard rests; whoever left it wants to
+/// find it again.
+void CardWindow::showFocus(bool isShown) {
+    constexpr const char* byKeys = "nurva-by-keys";
+    isShown ? gtk_widget_add_css_class(GTK_WIDGET(window_), byKeys)
+            : gtk_widget_remove_css_class(GTK_WIDGET(window_), byKeys);
 }
 
 bool CardWindow::press(unsigned key, GdkModifierType modifiers) {

@@ -51,6 +51,7 @@ class CardWindow {
   private:
     void standFree();
     void listen();
+    void showFocus(bool isShown);
     bool press(unsigned key, GdkModifierType modifiers);
     void openMenu(std::optional<views::Point> at);
     void outline();

@@ -50,6 +50,12 @@ class EndingSignal {
     unsigned source_;
 };
 
+/// Widgets are still there to be looked at when the session bus has ended, and may see it again.
+void outliveTheBus(GApplication* application) {
+    if (GDBusConnection* bus = g_application_get_dbus_connection(application))
+        g_dbus_connection_set_exit_on_close(bus, FALSE);
+}
+
 /// All there is while widgets are on the desktop.
 struct Host {
     Host(const Options& options,
@@ -81,6 +87,7 @@ int runWithDisplay(const Options& options,
         const bool isFirst = !host;
         if (isFirst) {
             installStyle(gdk_display_get_default());
+            outliveTheBus(handle);
             host.emplace(options, placement, makeSource, handle);
             g_application_hold(handle);
             host->desk.open();

@@ -11,14 +11,16 @@ namespace {
 // The ring of the focus is seen on light and dark: white within, dark without.
 constexpr const char* style = R"(
 window.nurva-card-window { background: none; box-shadow: none; border-radius: 0; }
+window.nurva-framed-card { background: #16191b; }
 nurva-control { border-radius: 5px; }
-nurva-control:focus:focus-visible {
+window.nurva-by-keys nurva-control:focus {
     outline: 2px solid white;
     outline-offset: 0;
     box-shadow: 0 0 0 4px rgba(0, 0, 0, 0.7);
 }
 nurva-card { border-radius: 28px; }
-nurva-card:focus:focus-visible { outline: 2px solid white; outline-offset: -5px; }
+window.nurva-by-keys nurva-card:focus { outline: 2px solid white; outline-offset: -5px; }
+.nurva-stopped { font-family: Inter, sans-serif; }
 .nurva-stopped { color: #e8ebec; margin: 12px; }
 .nurva-stopped-title { font-weight: 600; font-size: 12px; }
 .nurva-stopped-line { color: #98a0a4; font-size: 11px; }

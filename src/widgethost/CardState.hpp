@@ -23,8 +23,8 @@ struct CardState {
     std::uint64_t lentTo = 0;  // number of the extension's process that has the memory
 
     bool showsAnything = false;
+    bool isCulprit = false;  // the extension's end came while it was asked for this face
     std::optional<foundation::Date> reloadAfter;
-    int stops = 0;  // of the extension, one after the other, while it was asked for this face
 };
 
 }  // namespace widgethost

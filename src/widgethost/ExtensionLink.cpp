@@ -5,6 +5,7 @@
 #include <systemd/sd-id128.h>
 
 #include <cerrno>
+#include <csignal>
 #include <system_error>
 #include <utility>
 
@@ -70,11 +71,19 @@ ExtensionLink::ExtensionLink(const SessionOptions& options, LinkEvents events)
     : patience_(options.patience),
       events_(std::move(events)),
       process_(options.extension, options.requiresSandbox) {
-    connection_.emplace(connected(process_.takeSocket()), [this] { end(); });
+    connection_.emplace(connected(process_.takeSocket()), [this] { close(); });
     check(sd_bus_add_object(connection_->bus(), nullptr, remote::protocol::path, posted, this));
 }
 
 ExtensionLink::~ExtensionLink() = default;
+
+Ending ExtensionLink::end() {
+    connection_.reset();
+    const int status = process_.end();
+    if (process_.wasKilled())
+        return Ending::hung;
+    return status == 128 + SIGKILL ? Ending::fromOutside : Ending::byItself;
+}
 
 void ExtensionLink::listWidgets(std::function<void(std::vector<remote::WidgetDescription>)> then) {
     ask(method("Widgets"), [then = std::move(then)](sd_bus_message& answer) {
@@ -138,16 +147,18 @@ void ExtensionLink::ask(const remote::Message& call, Answer then) {
 int ExtensionLink::answered(sd_bus_message* answer, void* data, sd_bus_error*) {
     Call& call = *static_cast<Call*>(data);
     ExtensionLink& link = *call.link;
-    const bool isHung = sd_bus_message_is_method_error(answer, SD_BUS_ERROR_NO_REPLY) > 0 ||
-                        sd_bus_message_is_method_error(answer, SD_BUS_ERROR_TIMEOUT) > 0;
+    // A connection that is gone answers what is left unanswered itself, in the same words.
+    const bool isUnanswered = sd_bus_message_is_method_error(answer, SD_BUS_ERROR_NO_REPLY) > 0 ||
+                              sd_bus_message_is_method_error(answer, SD_BUS_ERROR_TIMEOUT) > 0;
+    const bool isHung = isUnanswered && sd_bus_is_open(link.connection_->bus()) > 0;
     const Answer then = std::move(call.then);
     link.calls_.remove_if([&](const Call& other) { return &other == &call; });
-    if (isHung) {
+    if (isHung)
         link.process_.kill();
-        link.end();
-    } else {
+    if (isUnanswered)
+        link.close();
+    else
         then(*answer);
-    }
     return 1;
 }
 
@@ -159,7 +170,7 @@ int ExtensionLink::posted(sd_bus_message* post, void* data, sd_bus_error*) {
     return 1;
 }
 
-void ExtensionLink::end() {
+void ExtensionLink::close() {
     const std::function<void()> onClosed = std::exchange(events_.onClosed, {});
     if (onClosed)
         onClosed();

@@ -22,6 +22,9 @@ namespace widgethost {
 
 enum class Occasion { placeholder, snapshot, timeline };
 
+/// How a process of the extension came to its end.
+enum class Ending { byItself, hung, fromOutside };
+
 /// What the connection tells of without being asked.
 struct LinkEvents {
     std::function<void(const std::string& name)> onPost;
@@ -38,6 +41,12 @@ class ExtensionLink {
     ~ExtensionLink();
 
     using Slot = std::uint32_t;
+
+    /// Whether nothing that is asked would be answered any more.
+    bool isDead() const { return process_.hasEnded(); }
+
+    /// Ends the conversation, and the process with it; tells how that had ended before.
+    Ending end();
 
     void listWidgets(std::function<void(std::vector<remote::WidgetDescription>)> then);
 
@@ -65,7 +74,7 @@ class ExtensionLink {
     void ask(const remote::Message& call, Answer then);
     static int answered(sd_bus_message* answer, void* call, sd_bus_error*);
     static int posted(sd_bus_message* post, void* link, sd_bus_error*);
-    void end();
+    void close();
 
     std::chrono::microseconds patience_;
     LinkEvents events_;

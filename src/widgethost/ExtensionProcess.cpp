@@ -87,8 +87,7 @@ ExtensionProcess::~ExtensionProcess() {
 
 int ExtensionProcess::end() {
     socket_ = {};
-    pollfd ended{.fd = process_.number(), .events = POLLIN, .revents = 0};
-    if (::poll(&ended, 1, patience) != 1)
+    if (!endsWithin(patience))
         kill();
     int status = 0;
     ::waitpid(std::exchange(id_, 0), &status, 0);
@@ -96,7 +95,17 @@ int ExtensionProcess::end() {
 }
 
 void ExtensionProcess::kill() {
+    wasKilled_ = true;
     ::kill(id_, SIGKILL);
+}
+
+bool ExtensionProcess::hasEnded() const {
+    return endsWithin(0);
+}
+
+bool ExtensionProcess::endsWithin(int milliseconds) const {
+    pollfd ended{.fd = process_.number(), .events = POLLIN, .revents = 0};
+    return ::poll(&ended, 1, milliseconds) == 1;
 }
 
 }  // namespace widgethost

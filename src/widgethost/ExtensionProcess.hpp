@@ -24,13 +24,22 @@ class ExtensionProcess {
     /// Ends it at once.
     void kill();
 
+    /// Whether it has ended, whoever ended it.
+    bool hasEnded() const;
+
     /// Closes our end of the socket where it was not taken, and waits for the process's end as its
     /// owner's end does. Its exit status; 128 and more is a signal. To be called once.
     int end();
 
+    /// Whether `kill` ended it.
+    bool wasKilled() const { return wasKilled_; }
+
   private:
+    bool endsWithin(int milliseconds) const;
+
     foundation::FileDescriptor socket_;
     pid_t id_ = 0;
+    bool wasKilled_ = false;
     foundation::FileDescriptor process_;  // readable once it has ended
 };
 

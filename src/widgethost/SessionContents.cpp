@@ -13,19 +13,21 @@ namespace {
 /// A timeline that wants to be asked again at once would never let the machine rest.
 constexpr double shortestReload = 1;  // seconds
 
-/// So often the extension stops under a card before the card is given up: once is an accident.
-constexpr int stopsOfACulprit = 2;
-
 }  // namespace
 
 Session::Contents::Contents(const SessionOptions& options)
     : pacing([this](const ReloadPacing::Kinds& kinds) { want(kinds); }),
+      presses_([this](Slot slot) {
+          if (card(slot))
+              want(slot);
+          goOn();
+      }),
       timer_([this] { askWhoIsDue(); }),
       notifications_(foundation::Entitlements::of(foundation::Bundle::main()).notifications),
       supervisor_(options,
                   {.onStarted = [this] { started(); },
-                   .onStopped = [this] { stopped(); },
-                   .onMayStart = [this] { askNext(); },
+                   .onStopped = [this](Ending ending) { stopped(ending); },
+                   .onMayStart = [this] { goOn(); },
                    .onPost = [this](const std::string& name) { post(name); }}),
       watches_(watchContainers(
           foundation::Bundle::main(),
@@ -67,11 +69,15 @@ void Session::Contents::setScale(Slot slot, double scale) {
 }
 
 void Session::Contents::press(Slot slot, const intents::ArchivedAction& action) {
-    if (ExtensionLink* const link = supervisor_.link())
-        link->perform(action, [this, slot] {
-            if (card(slot))
-                want(slot);
-        });
+    presses_.add(slot, action);
+    goOn();
+}
+
+void Session::Contents::goOn() {
+    if (presses_.isWaiting())
+        if (ExtensionLink* const link = supervisor_.link())
+            presses_.performFirst(*link);
+    askNext();
 }
 
 void Session::Contents::want(Slot slot) {
@@ -86,7 +92,7 @@ void Session::Contents::want(const ReloadPacing::Kinds& kinds) {
             if (std::ranges::find(waiting_, slot) == waiting_.end())
                 waiting_.push_back(slot);
     // Whoever is known to stop the extension comes last.
-    std::ranges::stable_partition(waiting_, [&](Slot slot) { return cards_.at(slot).stops == 0; });
+    std::ranges::stable_partition(waiting_, [&](Slot slot) { return !cards_.at(slot).isCulprit; });
     askNext();
 }
 
@@ -106,19 +112,23 @@ void Session::Contents::take(std::vector<remote::WidgetDescription> widgets) {
     askNext();
 }
 
-void Session::Contents::stopped() {
+void Session::Contents::stopped(Ending ending) {
+    presses_.ended(ending);
     if (const auto slot = std::exchange(asked_, std::nullopt)) {
-        supervisor_.blame();
-        if (CardState* const culprit = card(*slot)) {
-            if (++culprit->stops < stopsOfACulprit)
+        supervisor_.blame(ending);
+        if (CardState* const asked = card(*slot)) {
+            // What stopped by itself would do so again; anything else may have been an accident.
+            const bool isWorthATry = ending != Ending::byItself && !asked->isCulprit;
+            asked->isCulprit = true;
+            if (isWorthATry)
                 waiting_.push_front(*slot);
             else
-                showStopped(*culprit);
+                showStopped(*asked);
         }
     } else if (introduced_ != supervisor_.number()) {
-        supervisor_.blame();
+        supervisor_.blame(ending);
     }
-    askNext();
+    goOn();
 }
 
 void Session::Contents::askNext() {
@@ -169,7 +179,7 @@ void Session::Contents::answered(Slot slot, const std::optional<remote::Face>& f
         return;
     if (!face)
         return showStopped(*card);
-    card->stops = 0;
+    card->isCulprit = false;
     card->showsAnything = true;
     card->reloadAfter = face->reloadAfter;
     if (card->reloadAfter)
@@ -226,6 +236,7 @@ void Session::Contents::setTimer() {
 }
 
 void Session::Contents::post(const std::string& name) {
+    presses_.announced();
     if (center_ && std::ranges::find(notifications_, name) != notifications_.end())
         center_->post(name);
 }

@@ -3,6 +3,7 @@
 #include "platform/foundation/SystemClock.hpp"
 #include "widgethost/CardState.hpp"
 #include "widgethost/FolderWatch.hpp"
+#include "widgethost/Presses.hpp"
 #include "widgethost/ReloadPacing.hpp"
 #include "widgethost/Session.hpp"
 #include "widgethost/Supervisor.hpp"
@@ -35,9 +36,10 @@ struct Session::Contents {
 
   private:
     void started();
-    void stopped();
+    void stopped(Ending ending);
     void take(std::vector<remote::WidgetDescription> widgets);
 
+    void goOn();
     void askNext();
     void ask(ExtensionLink& link, Slot slot);
     void lend(ExtensionLink& link, Slot slot);
@@ -56,6 +58,7 @@ struct Session::Contents {
     Slot nextSlot_ = 1;
     std::deque<Slot> waiting_;
     std::optional<Slot> asked_;
+    Presses presses_;
     std::uint64_t introduced_ = 0;  // number of the extension's process that has told its widgets
 
     foundation::SystemClock clock_;

@@ -2,6 +2,7 @@
 
 #include "platform/foundation/Message.hpp"
 
+#include <algorithm>
 #include <iostream>
 #include <system_error>
 #include <utility>
@@ -15,9 +16,12 @@ Supervisor::Supervisor(SessionOptions options, Events events)
 
 ExtensionLink* Supervisor::link() {
     resting_ = after(options_.rest, [this] { end(); });
+    // What is asked of a process whose end nobody has noticed yet would be lost.
+    if (link_ && link_->isDead())
+        stopped();
     if (link_)
         return link_.get();
-    if (stops_.earliest() > Instant::clock::now()) {
+    if (earliestStart() > Instant::clock::now()) {
         postpone();
         return nullptr;
     }
@@ -28,7 +32,7 @@ ExtensionLink* Supervisor::link() {
         std::cerr << "nurva: "
                   << message("no se puede arrancar la extensión: %@", {std::string(error.what())})
                   << std::endl;
-        blame();
+        blame(Ending::byItself);
         postpone();
         return nullptr;
     }
@@ -37,18 +41,22 @@ ExtensionLink* Supervisor::link() {
     return link_.get();
 }
 
-void Supervisor::blame() {
-    stops_.happens(Instant::clock::now());
+void Supervisor::blame(Ending ending) {
+    (ending == Ending::fromOutside ? kills_ : stops_).happens(Instant::clock::now());
+}
+
+Instant Supervisor::earliestStart() const {
+    return std::max(stops_.earliest(), kills_.earliest());
 }
 
 void Supervisor::stopped() {
-    link_.reset();
-    events_.onStopped();
+    const std::unique_ptr<ExtensionLink> link = std::move(link_);
+    events_.onStopped(link->end());
 }
 
 void Supervisor::postpone() {
     const auto wait = std::chrono::ceil<std::chrono::milliseconds>(std::max(
-        stops_.earliest() - Instant::clock::now(), Instant::duration(std::chrono::seconds(1))));
+        earliestStart() - Instant::clock::now(), Instant::duration(std::chrono::seconds(1))));
     if (!postponed_)
         postponed_ = after(wait, [this] {
             postponed_.reset();

@@ -18,7 +18,7 @@ class Supervisor {
   public:
     struct Events {
         std::function<void()> onStarted;
-        std::function<void()> onStopped;   // by itself, or since it was hung
+        std::function<void(Ending)> onStopped;
         std::function<void()> onMayStart;  // what could not start before may now
         std::function<void(const std::string& name)> onPost;
     };
@@ -34,19 +34,21 @@ class Supervisor {
     /// Ends the running process; the next one knows of what has changed meanwhile.
     void end() { link_.reset(); }
 
-    /// Counts a stop for which the extension is to blame, rather than whoever ended it.
-    void blame();
+    /// Counts a stop while it was needed.
+    void blame(Ending ending);
 
     /// Another number for each process.
     std::uint64_t number() const { return number_; }
 
   private:
+    Instant earliestStart() const;
     void stopped();
     void postpone();
 
     SessionOptions options_;
     Events events_;
     RateLimit stops_{5, std::chrono::seconds(10)};
+    RateLimit kills_{20, std::chrono::seconds(10)};  // for which the extension is not to blame
     std::unique_ptr<ExtensionLink> link_;
     std::uint64_t number_ = 0;
     Source postponed_;

@@ -197,6 +197,7 @@ TEST_F(CardOnScreen, EnterAndSpacePressAtOnce) {
 
 TEST_F(CardOnScreen, ARingShowsWhereTheKeyboardIs) {
     show(elements);
+    gtk_widget_add_css_class(GTK_WIDGET(gtk_widget_get_root(card.widget())), "nurva-by-keys");
     gtk_widget_grab_focus(card.widget());
     for (int i = 0; i < 3; ++i)
         screen::pressKey(GDK_KEY_Tab);

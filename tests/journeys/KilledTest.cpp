@@ -100,7 +100,7 @@ TEST(Killed, TheExtensionIsThereAgainForTheNextPress) {
 }
 
 // Waits for presses that are kept while the extension is not there.
-TEST(Killed, DISABLED_TheExtensionIsThereAgainAtAnyMoment) {
+TEST(Killed, TheExtensionIsThereAgainAtAnyMoment) {
     VolumeUser user;
     const Reader requests;
     for (int turn = 0; turn < times(20, 1000); ++turn) {

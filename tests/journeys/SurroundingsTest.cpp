@@ -23,7 +23,7 @@ TEST(Surroundings, CardsFollowTheResolutionOfTheDesktop) {
 }
 
 // Waits for a program that goes on without the bus.
-TEST(Surroundings, DISABLED_WidgetsOutliveTheBusAndFindItAgain) {
+TEST(Surroundings, WidgetsOutliveTheBusAndFindItAgain) {
     UserSession session;
     session.startHostApplication("sin-medir");
     WidgetHost host;

@@ -8,6 +8,7 @@
 #include <glib.h>
 
 #include <algorithm>
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -85,6 +86,13 @@ pid_t extensionProcess() {
             return child;
     }
     return 0;
+}
+
+void signalExtension(int number) {
+    const pid_t process = extensionProcess();
+    if (process == 0)
+        throw std::runtime_error("no extension is running");
+    ::kill(process, number);
 }
 
 Viewer::Viewer(widgethost::Session& session, std::string kind, double scale, bool asPreview) {

@@ -51,6 +51,9 @@ widgethost::SessionOptions realExtension();
 /// The process of the extension; 0 where none is running.
 pid_t extensionProcess();
 
+/// Sends the extension a signal. Throws where none is running.
+void signalExtension(int number);
+
 /// Somebody who looks at a card, and remembers what was shown.
 struct Viewer {
     Viewer(widgethost::Session& session,

@@ -32,7 +32,7 @@ TEST(Supervision, StartsAnExtensionThatWasKilledWhenItIsNeededAgain) {
     ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
     const pid_t first = extensionProcess();
     ASSERT_GT(first, 0);
-    ::kill(first, SIGKILL);
+    signalExtension(SIGKILL);
     letPass(50ms);
     EXPECT_EQ(viewer.shown, 1);
     viewer.display->press({.identifier = "AlternarEncendido"});
@@ -48,10 +48,10 @@ TEST(Supervision, AsksOnceMoreWhenTheExtensionIsKilledUnderARequest) {
     Session session(realExtension());
     Viewer viewer(session, room);
     ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
-    ::kill(extensionProcess(), SIGSTOP);
+    signalExtension(SIGSTOP);
     session.reload();
     letPass(20ms);
-    ::kill(extensionProcess(), SIGKILL);
+    signalExtension(SIGKILL);
     EXPECT_TRUE(soon([&] { return viewer.shown == 2 && viewer.face; }));
 }
 
@@ -62,12 +62,12 @@ TEST(Supervision, EndsAnExtensionThatHangsAndAsksAnother) {
     Viewer viewer(session, room);
     ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
     const pid_t first = extensionProcess();
-    ::kill(first, SIGSTOP);
+    signalExtension(SIGSTOP);
     session.reload();
     EXPECT_TRUE(soon([&] { return viewer.shown == 2; }));
     EXPECT_TRUE(viewer.face);
     EXPECT_NE(extensionProcess(), first);
-    ::kill(extensionProcess(), SIGSTOP);
+    signalExtension(SIGSTOP);
     viewer.display->press({.identifier = "AlternarEncendido"});
     letPass(250ms);
     session.reload();

@@ -187,10 +187,10 @@ std::uint32_t readCount(sd_bus_message& message) {
 void write(sd_bus_message& message, const intents::ArchivedAction& action) {
     write(message, std::string_view(action.identifier));
     writing(message, 'a', parameterType, [&] {
-        for (const auto& [name, value] : action.parameters)
+        for (const auto& parameter : action.parameters)
             writing(message, 'r', inside(parameterType), [&] {
-                write(message, std::string_view(name));
-                write(message, value);
+                write(message, std::string_view(parameter.first));
+                write(message, parameter.second);
             });
     });
 }
