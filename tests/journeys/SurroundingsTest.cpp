@@ -35,6 +35,7 @@ TEST(Surroundings, WidgetsOutliveTheBusAndFindItAgain) {
     ASSERT_TRUE(isSeenAsDrawn(volume, session.screen));
     session.bus.start();
     session.startHostApplication("sin-medir");
+    ASSERT_TRUE(soon([&] { return session.container.state().apps[1].nivel != 0.2; }));
     ASSERT_TRUE(isSeenAsDrawn(volume, session.screen));
     const auto card = session.screen.window(volume.name);
     ASSERT_TRUE(card);
