@@ -1,8 +1,7 @@
 #include "widgethost/ExtensionLink.hpp"
 
+#include "platform/remote/Connection.hpp"
 #include "platform/remote/Protocol.hpp"
-
-#include <systemd/sd-id128.h>
 
 #include <cerrno>
 #include <csignal>
@@ -18,22 +17,6 @@ using remote::check;
 struct SlotDeleter {
     void operator()(sd_bus_slot* slot) const { sd_bus_slot_unref(slot); }
 };
-
-/// Our end of the conversation: the one that sets its terms.
-foundation::SessionBus connected(foundation::FileDescriptor socket) {
-    sd_bus* made = nullptr;
-    check(sd_bus_new(&made));
-    foundation::SessionBus bus(made);
-    const int number = socket.release();
-    check(sd_bus_set_fd(made, number, number));
-    sd_id128_t id;
-    check(sd_id128_randomize(&id));
-    check(sd_bus_set_server(made, true, id));
-    check(sd_bus_set_anonymous(made, true));
-    check(sd_bus_negotiate_fds(made, true));
-    check(sd_bus_start(made));
-    return bus;
-}
 
 const char* member(Occasion occasion) {
     switch (occasion) {
@@ -71,7 +54,8 @@ ExtensionLink::ExtensionLink(const SessionOptions& options, LinkEvents events)
     : patience_(options.patience),
       events_(std::move(events)),
       process_(options.extension, options.requiresSandbox) {
-    connection_.emplace(connected(process_.takeSocket()), [this] { close(); });
+    connection_.emplace(remote::connect(process_.takeSocket(), remote::End::widgetHost),
+                        [this] { close(); });
     check(sd_bus_add_object(connection_->bus(), nullptr, remote::protocol::path, posted, this));
 }
 

@@ -1,4 +1,5 @@
 #include "platform/foundation/SessionBus.hpp"
+#include "platform/remote/Connection.hpp"
 #include "platform/remote/PictureMemory.hpp"
 #include "platform/remote/Protocol.hpp"
 #include "platform/remote/Wire.hpp"
@@ -8,7 +9,6 @@
 #include <gtest/gtest.h>
 #include <poll.h>
 #include <sys/mman.h>
-#include <systemd/sd-id128.h>
 #include <unistd.h>
 
 #include <cmath>
@@ -21,20 +21,7 @@ using remote::check;
 /// A widget host that says what it likes to the real extension.
 class Conversation : public testing::Test {
   protected:
-    Conversation() {
-        sd_bus* bus = nullptr;
-        check(sd_bus_new(&bus));
-        bus_.reset(bus);
-        const int socket = process_.takeSocket().release();
-        check(sd_bus_set_fd(bus, socket, socket));
-        sd_id128_t id;
-        check(sd_id128_randomize(&id));
-        check(sd_bus_set_server(bus, true, id));
-        check(sd_bus_set_anonymous(bus, true));
-        check(sd_bus_negotiate_fds(bus, true));
-        check(sd_bus_start(bus));
-        EXPECT_EQ(say("Widgets"), "");
-    }
+    Conversation() { EXPECT_EQ(say("Widgets"), ""); }
 
     /// The name of the error that the call ends with; empty without one.
     template <class Fill>
@@ -74,7 +61,7 @@ class Conversation : public testing::Test {
   private:
     Stage stage_;
     widgethost::ExtensionProcess process_{NURVA_EXTENSION};
-    foundation::SessionBus bus_;
+    foundation::SessionBus bus_ = remote::connect(process_.takeSocket(), remote::End::widgetHost);
     remote::Message answer_;
 };
 

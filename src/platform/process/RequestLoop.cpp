@@ -4,6 +4,7 @@
 #include "platform/intents/IntentError.hpp"
 #include "platform/process/ExtensionService.hpp"
 #include "platform/process/ForwardedNotifications.hpp"
+#include "platform/remote/Connection.hpp"
 #include "platform/remote/Protocol.hpp"
 
 #include <poll.h>
@@ -19,19 +20,6 @@ namespace process {
 namespace {
 
 using remote::check;
-
-/// The extension's end of the socket. Nobody but the widget host can be at the other one.
-foundation::SessionBus connected(foundation::FileDescriptor socket) {
-    sd_bus* made = nullptr;
-    check(sd_bus_new(&made));
-    foundation::SessionBus bus(made);
-    const int number = socket.release();
-    check(sd_bus_set_fd(made, number, number));
-    check(sd_bus_set_anonymous(made, true));
-    check(sd_bus_negotiate_fds(made, true));
-    check(sd_bus_start(made));
-    return bus;
-}
 
 int answer(sd_bus_message* call, void* service, sd_bus_error* error) {
     try {
@@ -72,7 +60,7 @@ bool saysClosed(const std::system_error& fault) {
 }  // namespace
 
 void answerRequests(foundation::FileDescriptor socket, const Extension& extension) try {
-    const foundation::SessionBus bus = connected(std::move(socket));
+    const foundation::SessionBus bus = remote::connect(std::move(socket), remote::End::extension);
     LoopTasks tasks;
     const ForwardedNotifications notifications([&](std::string name) {
         tasks.add([&bus, name = std::move(name)] { forward(*bus, name); });
