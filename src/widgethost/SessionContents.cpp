@@ -117,9 +117,11 @@ void Session::Contents::stopped(Ending ending) {
     if (const auto slot = std::exchange(asked_, std::nullopt)) {
         supervisor_.blame(ending);
         if (CardState* const asked = card(*slot)) {
-            // What stopped by itself would do so again; anything else may have been an accident.
-            const bool isWorthATry = ending != Ending::byItself && !asked->isCulprit;
-            asked->isCulprit = true;
+            // What stopped by itself would do so again; to hang once may have been an accident, and
+            // to be ended by somebody else says nothing of the card.
+            const bool isWorthATry =
+                ending == Ending::fromOutside || (ending == Ending::hung && !asked->isCulprit);
+            asked->isCulprit = ending != Ending::fromOutside;
             if (isWorthATry)
                 waiting_.push_front(*slot);
             else

@@ -48,7 +48,7 @@ class Supervisor {
     SessionOptions options_;
     Events events_;
     RateLimit stops_{5, std::chrono::seconds(10)};
-    RateLimit kills_{20, std::chrono::seconds(10)};  // for which the extension is not to blame
+    RateLimit kills_{60, std::chrono::seconds(10)};  // for which the extension is not to blame
     std::unique_ptr<ExtensionLink> link_;
     std::uint64_t number_ = 0;
     Source postponed_;
