@@ -12,15 +12,13 @@
 
 #include <atomic>
 #include <cerrno>
-#include <chrono>
 #include <thread>
 
 namespace foundation {
 namespace {
 
-/// Requires that reading fails with the error, and within a second.
+/// Requires that reading fails with the error; a reading that waits or goes on for ever never ends.
 void expectError(const std::filesystem::path& path, int code) {
-    const auto start = std::chrono::steady_clock::now();
     try {
         readFile(path);
         ADD_FAILURE() << path << " was read";
@@ -29,7 +27,6 @@ void expectError(const std::filesystem::path& path, int code) {
         EXPECT_EQ(error.path(), path);
         EXPECT_NE(std::string(error.what()).find(path.c_str()), std::string::npos);
     }
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1)) << path;
 }
 
 TEST(ReadFile, GivesTheWholeContents) {

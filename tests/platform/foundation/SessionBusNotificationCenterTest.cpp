@@ -25,10 +25,24 @@ struct Listener : support::ChildProcess {
     Listener() : ChildProcess({NURVA_NOTIFICATION_LISTENER}) { EXPECT_EQ(line(), "ready"); }
 };
 
+/// Far below the time after which a bus that does not answer gives up by itself, and far above what
+/// a busy machine takes.
+constexpr Clock::duration inTime = 10s;
+
 Clock::duration durationOf(const auto& action) {
     const auto start = Clock::now();
     action();
     return Clock::now() - start;
+}
+
+/// What this thread has used of the processor, in its own code and in the kernel's.
+std::chrono::microseconds timeOfProcessor() {
+    rusage usage{};
+    ::getrusage(RUSAGE_THREAD, &usage);
+    const auto micro = [](const timeval& time) {
+        return std::chrono::seconds(time.tv_sec) + std::chrono::microseconds(time.tv_usec);
+    };
+    return micro(usage.ru_utime) + micro(usage.ru_stime);
 }
 
 TEST(SessionBusNotificationCenter, SendsASignalWithoutArgumentsToOtherPrograms) {
@@ -79,7 +93,7 @@ TEST(SessionBusNotificationCenter, WithoutABusNothingHappens) {
           std::string("unix:path=/dev/null"), std::string("")}) {
         ::setenv("DBUS_SESSION_BUS_ADDRESS", address.c_str(), 1);
         const SessionBusNotificationCenter center;
-        EXPECT_LT(durationOf([&] { center.post(name); }), 1s) << address;
+        EXPECT_LT(durationOf([&] { center.post(name); }), inTime) << address;
     }
     ::unsetenv("DBUS_SESSION_BUS_ADDRESS");
 }
@@ -109,14 +123,11 @@ TEST(SessionBusNotificationCenter, ABrokenConnectionIsOpenedAnew) {
 TEST(SessionBusNotificationCenter, ABusThatDoesNotAnswerIsLeftAloneInTime) {
     support::PrivateSessionBus bus;
     bus.hang();
-    const SessionBusNotificationCenter center(50ms);
-    EXPECT_LT(durationOf([&] { center.post(name); }), 1s);
-    rusage before{};
-    rusage after{};
-    ::getrusage(RUSAGE_THREAD, &before);
-    EXPECT_GE(durationOf([&] { center.post(name); }), 50ms);
-    ::getrusage(RUSAGE_THREAD, &after);
-    EXPECT_LT(after.ru_utime.tv_usec - before.ru_utime.tv_usec, 20'000);
+    const SessionBusNotificationCenter center(400ms);
+    EXPECT_LT(durationOf([&] { center.post(name); }), inTime);
+    const auto before = timeOfProcessor();
+    EXPECT_GE(durationOf([&] { center.post(name); }), 400ms);
+    EXPECT_LT(timeOfProcessor() - before, 200ms) << "it is to wait, not to ask again and again";
     bus.goOn();
     Listener listener;
     const SessionBusNotificationCenter patient;
@@ -136,7 +147,7 @@ TEST(SessionBusNotificationCenter, ABusThatHangsWhileConnectedNeverHoldsThePoste
     for (int post = 0; post < 200'000 && longest < 50ms; ++post)
         longest = std::max(longest, durationOf([&] { center.post(name); }));
     EXPECT_GE(longest, 50ms);
-    EXPECT_LT(longest, 1s);
+    EXPECT_LT(longest, inTime);
     bus.goOn();
 }
 
