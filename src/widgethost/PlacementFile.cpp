@@ -3,9 +3,9 @@
 #include "platform/foundation/FileError.hpp"
 #include "platform/foundation/Message.hpp"
 #include "platform/foundation/ReadFile.hpp"
+#include "platform/foundation/WriteFile.hpp"
 #include "platform/foundation/json/JSONDecoder.hpp"
 #include "platform/foundation/json/JSONEncoder.hpp"
-#include "widgethost/DurableFile.hpp"
 
 #include <cerrno>
 #include <system_error>
@@ -67,7 +67,7 @@ std::optional<Placement> PlacementFile::load() const {
 
 void PlacementFile::save(const Placement& placement) const {
     try {
-        writeFileDurably(foundation::JSONEncoder().encode(placement), path_);
+        foundation::writeFileDurably(foundation::JSONEncoder().encode(placement), path_);
     } catch (const std::exception& error) {
         report_(foundation::message("no se puede guardar el sitio de los widgets: %@",
                                     {std::string(error.what())}));

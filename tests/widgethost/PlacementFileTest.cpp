@@ -1,6 +1,5 @@
 #include "support/Program.hpp"
 #include "support/TemporaryFolder.hpp"
-#include "widgethost/DurableFile.hpp"
 #include "widgethost/Monitors.hpp"
 #include "widgethost/PlacementFile.hpp"
 
@@ -90,13 +89,6 @@ TEST_F(SavedPlacement, ThatCannotBeWrittenIsReported) {
     folder.write("settings", "a file where a folder should be");
     file.save(sample);
     EXPECT_THAT(reports, testing::SizeIs(1));
-}
-
-TEST_F(SavedPlacement, StaysAsItWasWhenTheNewOneCannotTakeItsPlace) {
-    std::filesystem::create_directories(path / "inside");
-    EXPECT_ANY_THROW(writeFileDurably("new", path));
-    const std::filesystem::directory_iterator entries(path.parent_path());
-    EXPECT_EQ(std::distance(begin(entries), end(entries)), 1) << "no temporary file stays";
 }
 
 TEST(PlacementFile, LiesWithTheUsersSettings) {

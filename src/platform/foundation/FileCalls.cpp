@@ -42,6 +42,10 @@ ssize_t FileCalls::write(int file, const void* bytes, std::size_t size) const {
     return ::write(file, bytes, size);
 }
 
+int FileCalls::fsync(int file) const {
+    return ::fsync(file);
+}
+
 int FileCalls::rename(const char* from, const char* to) const {
     return ::rename(from, to);
 }
@@ -52,6 +56,10 @@ int FileCalls::renameat2(const char* from, const char* to, unsigned flags) const
 
 int FileCalls::unlink(const char* path) const {
     return ::unlink(path);
+}
+
+int FileCalls::mkdir(const char* path, mode_t mode) const {
+    return ::mkdir(path, mode);
 }
 
 DIR* FileCalls::opendir(const char* path) const {

@@ -24,9 +24,11 @@ class FileCalls {
     virtual int fchmod(int file, mode_t mode) const;
     virtual int flock(int file, int operation) const;
     virtual ssize_t write(int file, const void* bytes, std::size_t size) const;
+    virtual int fsync(int file) const;
     virtual int rename(const char* from, const char* to) const;
     virtual int renameat2(const char* from, const char* to, unsigned flags) const;
     virtual int unlink(const char* path) const;
+    virtual int mkdir(const char* path, mode_t mode) const;
     virtual DIR* opendir(const char* path) const;
     virtual dirent* readdir(DIR* folder) const;
 };

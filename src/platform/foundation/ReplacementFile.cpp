@@ -101,6 +101,11 @@ void ReplacementFile::write(std::string_view bytes) {
     }
 }
 
+void ReplacementFile::synchronize() {
+    if (calls_.fsync(file_.number()) != 0)
+        fail(errno);
+}
+
 void ReplacementFile::takePlace(bool byExchange) {
     const bool isExchanged = byExchange && exchange() && removeExchanged();
     if (!isExchanged && calls_.rename(name_.c_str(), target_.c_str()) != 0)

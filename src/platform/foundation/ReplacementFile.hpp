@@ -23,6 +23,9 @@ class ReplacementFile {
     void changeMode(mode_t mode);
     void write(std::string_view bytes);
 
+    /// Waits until what was written is on the disk.
+    void synchronize();
+
     /// Takes the place of the target, whatever it is by now. With `byExchange` the two files swap
     /// their names before the old one is removed: to replace by renaming makes ext4 write the file
     /// out at once, which takes four times as long as all the rest.

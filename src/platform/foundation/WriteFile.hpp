@@ -16,4 +16,11 @@ void writeFileAtomically(std::string_view bytes,
                          const std::filesystem::path& path,
                          const FileCalls& calls = FileCalls::ofSystem());
 
+/// Does the same for a file that has to outlast a power cut at any moment: it is on the disk when
+/// this returns, with the folders on the way to it, which are made where they are missing. Folders
+/// and file are for the user alone. Throws FileError: then one file or the other stands there.
+void writeFileDurably(std::string_view bytes,
+                      const std::filesystem::path& path,
+                      const FileCalls& calls = FileCalls::ofSystem());
+
 }  // namespace foundation

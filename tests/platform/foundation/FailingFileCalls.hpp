@@ -9,7 +9,8 @@
 #include <string_view>
 
 /// The system's calls, of which some fail: always, or only the n-th time that one is made. Counts
-/// them. Writes no more bytes at once than it is told to. Only for one thread.
+/// them. Writes no more bytes at once than it is told to, and does not wait for the disk. Only for
+/// one thread.
 class FailingFileCalls : public foundation::FileCalls {
   public:
     struct Failure {
@@ -46,6 +47,7 @@ class FailingFileCalls : public foundation::FileCalls {
     ssize_t write(int file, const void* bytes, std::size_t size) const override {
         return fails("write") ? -1 : FileCalls::write(file, bytes, std::min(size, bytesAtOnce));
     }
+    int fsync(int) const override { return fails("fsync") ? -1 : 0; }
     int rename(const char* from, const char* to) const override {
         return fails("rename") ? -1 : FileCalls::rename(from, to);
     }
@@ -54,6 +56,9 @@ class FailingFileCalls : public foundation::FileCalls {
     }
     int unlink(const char* path) const override {
         return fails("unlink") ? -1 : FileCalls::unlink(path);
+    }
+    int mkdir(const char* path, mode_t mode) const override {
+        return fails("mkdir") ? -1 : FileCalls::mkdir(path, mode);
     }
     DIR* opendir(const char* path) const override {
         return fails("opendir") ? nullptr : FileCalls::opendir(path);
