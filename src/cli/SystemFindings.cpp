@@ -5,10 +5,12 @@
 #include "platform/foundation/SessionBus.hpp"
 #include "platform/sandbox/Confinement.hpp"
 #include "platform/widgets/WidgetCenter.hpp"
+#include "widgethost/MainLoop.hpp"
 #include "widgethost/Session.hpp"
 
 #include <glib.h>
 
+#include <chrono>
 #include <filesystem>
 
 namespace cli {
@@ -19,15 +21,11 @@ using enum Finding::Kind;
 
 /// Lets the main context work until the extension has told of its widgets. False when it does not.
 bool answers(widgethost::Session& session) {
-    const auto deadline = g_get_monotonic_time() + 3 * G_USEC_PER_SEC;
-    GSource* const tick = g_timeout_source_new(20);
-    g_source_set_callback(
-        tick, [](void*) -> gboolean { return G_SOURCE_CONTINUE; }, nullptr, nullptr);
-    g_source_attach(tick, nullptr);
-    while (session.gallery().empty() && g_get_monotonic_time() < deadline)
+    bool isTimeUp = false;
+    const widgethost::Source end =
+        widgethost::after(std::chrono::seconds(3), [&] { isTimeUp = true; });
+    while (session.gallery().empty() && !isTimeUp)
         g_main_context_iteration(nullptr, TRUE);
-    g_source_destroy(tick);
-    g_source_unref(tick);
     return !session.gallery().empty();
 }
 
@@ -42,7 +40,7 @@ std::filesystem::path xSocket(const std::string& display) {
 
 std::vector<Finding> busFindings() {
     using widgets::WidgetCenter::Answer;
-    switch (widgets::WidgetCenter::reloadTimelines({})) {
+    switch (widgets::WidgetCenter::ping()) {
         case Answer::done:
             return {
                 {holds, message("bus de sesión: lo hay, y en él un escritorio de widgets"), {}}};

@@ -77,13 +77,13 @@ void ExtensionLink::listWidgets(std::function<void(std::vector<remote::WidgetDes
 }
 
 void ExtensionLink::lend(Slot slot, const remote::PictureMemory& memory) {
-    const remote::Message call = method("Lend");
+    const foundation::BusMessage call = method("Lend");
     check(sd_bus_message_append(call.get(), "uh", slot, memory.descriptor().number()));
     send(call);
 }
 
 void ExtensionLink::takeBack(Slot slot) {
-    const remote::Message call = method("Return");
+    const foundation::BusMessage call = method("Return");
     check(sd_bus_message_append(call.get(), "u", slot));
     send(call);
 }
@@ -93,7 +93,7 @@ void ExtensionLink::requestFace(Occasion occasion,
                                 double scale,
                                 Slot slot,
                                 std::function<void(std::optional<remote::Face>)> then) {
-    const remote::Message call = method(member(occasion));
+    const foundation::BusMessage call = method(member(occasion));
     remote::write(*call, kind);
     check(sd_bus_message_append(call.get(), "du", scale, slot));
     ask(call, [then = std::move(then)](sd_bus_message& answer) {
@@ -102,25 +102,25 @@ void ExtensionLink::requestFace(Occasion occasion,
 }
 
 void ExtensionLink::perform(const intents::ArchivedAction& action, std::function<void()> then) {
-    const remote::Message call = method("Perform");
+    const foundation::BusMessage call = method("Perform");
     remote::write(*call, action);
     ask(call, [then = std::move(then)](sd_bus_message&) { then(); });
 }
 
-remote::Message ExtensionLink::method(const char* member) const {
+foundation::BusMessage ExtensionLink::method(const char* member) const {
     sd_bus_message* made = nullptr;
     check(sd_bus_message_new_method_call(connection_->bus(), &made, nullptr, remote::protocol::path,
                                          remote::protocol::interface, member));
-    return remote::Message(made);
+    return foundation::BusMessage(made);
 }
 
-void ExtensionLink::send(const remote::Message& call) const {
+void ExtensionLink::send(const foundation::BusMessage& call) const {
     // A connection that is gone says so by itself.
     check(sd_bus_message_set_expect_reply(call.get(), false));
     sd_bus_send(connection_->bus(), call.get(), nullptr);
 }
 
-void ExtensionLink::ask(const remote::Message& call, Answer then) {
+void ExtensionLink::ask(const foundation::BusMessage& call, Answer then) {
     Call& made = calls_.emplace_back(Call{.link = this, .then = std::move(then)});
     sd_bus_slot* slot = nullptr;
     sd_bus_call_async(connection_->bus(), &slot, call.get(), answered, &made,

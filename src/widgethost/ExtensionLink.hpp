@@ -68,10 +68,10 @@ class ExtensionLink {
     struct Call;
     using Answer = std::function<void(sd_bus_message&)>;
 
-    remote::Message method(const char* member) const;
-    void send(const remote::Message& call) const;
+    foundation::BusMessage method(const char* member) const;
+    void send(const foundation::BusMessage& call) const;
     /// Sends a call; `then` gets the answer, which may be an error.
-    void ask(const remote::Message& call, Answer then);
+    void ask(const foundation::BusMessage& call, Answer then);
     static int answered(sd_bus_message* answer, void* call, sd_bus_error*);
     static int posted(sd_bus_message* post, void* link, sd_bus_error*);
     void close();

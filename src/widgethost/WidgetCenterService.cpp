@@ -2,6 +2,7 @@
 
 #include "platform/foundation/Message.hpp"
 #include "platform/foundation/NotificationName.hpp"
+#include "platform/widgets/WidgetCenter.hpp"
 
 #include <algorithm>
 #include <cstdint>
@@ -11,9 +12,6 @@
 namespace widgethost {
 
 namespace {
-
-constexpr const char* serviceName = "org.nurva.WidgetCenter";
-constexpr const char* path = "/org/nurva/WidgetCenter";
 
 // A bus that is started anew is there soon or not for long.
 constexpr std::chrono::milliseconds firstPause{250};
@@ -41,8 +39,8 @@ void WidgetCenterService::connect() {
     if (sd_bus_open_user(&opened) < 0)
         return retry();
     foundation::SessionBus bus(opened);
-    if (sd_bus_add_object(opened, nullptr, path, called, this) < 0 ||
-        sd_bus_request_name_async(opened, nullptr, serviceName, 0, named, this) < 0)
+    if (sd_bus_add_object(opened, nullptr, widgets::WidgetCenter::path, called, this) < 0 ||
+        sd_bus_request_name_async(opened, nullptr, widgets::WidgetCenter::name, 0, named, this) < 0)
         return retry();
     connection_.emplace(std::move(bus), [this] { retry(); });
 }
@@ -56,10 +54,11 @@ void WidgetCenterService::retry() {
 int WidgetCenterService::called(sd_bus_message* call, void* data, sd_bus_error* error) {
     auto& service = *static_cast<WidgetCenterService*>(data);
     const char* kind = "";
-    if (sd_bus_message_is_method_call(call, serviceName, "ReloadTimelines") > 0) {
+    if (sd_bus_message_is_method_call(call, widgets::WidgetCenter::name, "ReloadTimelines") > 0) {
         if (sd_bus_message_read(call, "s", &kind) <= 0)
             return sd_bus_error_set(error, SD_BUS_ERROR_INVALID_ARGS, "ReloadTimelines(s kind)");
-    } else if (sd_bus_message_is_method_call(call, serviceName, "ReloadAllTimelines") <= 0) {
+    } else if (sd_bus_message_is_method_call(call, widgets::WidgetCenter::name,
+                                             "ReloadAllTimelines") <= 0) {
         return 0;
     }
     service.onReload_(kind);

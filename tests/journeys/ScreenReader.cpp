@@ -1,6 +1,7 @@
 #include "journeys/ScreenReader.hpp"
 
 #include "journeys/Waiting.hpp"
+#include "platform/foundation/SessionBus.hpp"
 #include "platform/remote/Wire.hpp"
 
 #include <algorithm>
@@ -24,20 +25,20 @@ constexpr unsigned sensitiveState = 24;
 
 /// Calls a method. The answer; null where there is none, for what was there is gone at any time.
 template <class... Arguments>
-remote::Message call(sd_bus* bus,
-                     const std::string& application,
-                     const std::string& path,
-                     const char* interface,
-                     const char* member,
-                     const char* types = "",
-                     Arguments... arguments) {
+foundation::BusMessage call(sd_bus* bus,
+                            const std::string& application,
+                            const std::string& path,
+                            const char* interface,
+                            const char* member,
+                            const char* types = "",
+                            Arguments... arguments) {
     sd_bus_message* answer = nullptr;
     sd_bus_call_method(bus, application.c_str(), path.c_str(), interface, member, nullptr, &answer,
                        types, arguments...);
-    return remote::Message(answer);
+    return foundation::BusMessage(answer);
 }
 
-std::string text(const remote::Message& answer, const char* signature = "s") {
+std::string text(const foundation::BusMessage& answer, const char* signature = "s") {
     const char* value = "";
     if (answer && *signature == 'v')
         check(sd_bus_message_enter_container(answer.get(), 'v', "s"));

@@ -29,7 +29,7 @@ class Conversation : public testing::Test {
         sd_bus_message* made = nullptr;
         check(sd_bus_message_new_method_call(bus_.get(), &made, nullptr, remote::protocol::path,
                                              remote::protocol::interface, member));
-        const remote::Message call(made);
+        const foundation::BusMessage call(made);
         fill(*made);
         sd_bus_error error = SD_BUS_ERROR_NULL;
         sd_bus_message* answer = nullptr;
@@ -62,7 +62,7 @@ class Conversation : public testing::Test {
     Stage stage_;
     widgethost::ExtensionProcess process_{NURVA_EXTENSION};
     foundation::SessionBus bus_ = remote::connect(process_.takeSocket(), remote::End::widgetHost);
-    remote::Message answer_;
+    foundation::BusMessage answer_;
 };
 
 constexpr const char* room = "nurva.tuCuarto";

@@ -14,6 +14,11 @@ struct SessionBusDeleter {
 /// A connection to the user's session bus. For one thread at a time.
 using SessionBus = std::unique_ptr<sd_bus, SessionBusDeleter>;
 
+struct BusMessageDeleter {
+    void operator()(sd_bus_message* message) const { sd_bus_message_unref(message); }
+};
+using BusMessage = std::unique_ptr<sd_bus_message, BusMessageDeleter>;
+
 using Deadline = std::chrono::steady_clock::time_point;
 
 /// A connection that is ready for use; null where there is no bus or it does not answer in time.

@@ -39,13 +39,13 @@ std::vector<remote::Element> elements(const views::Scene& scene) {
     return elements;
 }
 
-remote::Message replyTo(sd_bus_message& call) {
+foundation::BusMessage replyTo(sd_bus_message& call) {
     sd_bus_message* made = nullptr;
     check(sd_bus_message_new_method_return(&call, &made));
-    return remote::Message(made);
+    return foundation::BusMessage(made);
 }
 
-void send(const remote::Message& message) {
+void send(const foundation::BusMessage& message) {
     check(sd_bus_send(sd_bus_message_get_bus(message.get()), message.get(), nullptr));
 }
 
@@ -93,7 +93,7 @@ void ExtensionService::listWidgets(sd_bus_message& call) {
                            .displayName = text(widget.displayNameKey()),
                            .description = text(widget.descriptionKey()),
                            .families = widget.families()});
-    const remote::Message reply = replyTo(call);
+    const foundation::BusMessage reply = replyTo(call);
     remote::write(*reply, gallery);
     send(reply);
 }
@@ -143,7 +143,7 @@ void ExtensionService::draw(Occasion occasion, sd_bus_message& call) {
         due.entry, {.size = size, .margin = widgets::contentMargin, .scale = scale});
     canvas_.draw(scene, scale, memory->second.pixels().first(pixels));
 
-    const remote::Message reply = replyTo(call);
+    const foundation::BusMessage reply = replyTo(call);
     remote::write(*reply, remote::Face{.date = due.entry.date(),
                                        .reloadAfter = due.reloadAfter,
                                        .elements = elements(scene)});

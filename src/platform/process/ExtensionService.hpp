@@ -3,6 +3,7 @@
 #include "platform/canvas/PangoTextMeasurer.hpp"
 #include "platform/canvas/PixelCanvas.hpp"
 #include "platform/foundation/Environment.hpp"
+#include "platform/foundation/SessionBus.hpp"
 #include "platform/intents/ActionRuntime.hpp"
 #include "platform/process/Extension.hpp"
 #include "platform/process/LoopTasks.hpp"
@@ -42,7 +43,8 @@ class ExtensionService {
     const foundation::Environment& environment_;
     LoopTasks& tasks_;
     std::map<std::uint32_t, remote::PictureMemory> memories_;
-    std::map<std::uint64_t, remote::Message> performing_;  // calls to be answered when it is done
+    std::map<std::uint64_t, foundation::BusMessage>
+        performing_;  // calls to be answered when it is done
     std::uint64_t nextPerformance_ = 0;
     canvas::FontLibrary fonts_;
     canvas::PangoTextMeasurer measurer_{fonts_};

@@ -37,7 +37,7 @@ void forward(sd_bus& bus, const std::string& name) {
     sd_bus_message* made = nullptr;
     check(sd_bus_message_new_method_call(&bus, &made, nullptr, remote::protocol::path,
                                          remote::protocol::interface, "Post"));
-    const remote::Message post(made);
+    const foundation::BusMessage post(made);
     check(sd_bus_message_set_expect_reply(made, false));
     remote::write(*post, name);
     check(sd_bus_send(&bus, made, nullptr));

@@ -6,17 +6,11 @@
 
 #include <systemd/sd-bus.h>
 
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace remote {
-
-struct MessageDeleter {
-    void operator()(sd_bus_message* message) const { sd_bus_message_unref(message); }
-};
-using Message = std::unique_ptr<sd_bus_message, MessageDeleter>;
 
 /// Throws std::system_error for a result below zero, as sd-bus answers them.
 int check(int result);

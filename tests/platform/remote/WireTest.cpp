@@ -25,10 +25,10 @@ foundation::SessionBus connection() {
 class Wire : public testing::Test {
   protected:
     template <class Fill>
-    Message message(Fill fill) {
+    foundation::BusMessage message(Fill fill) {
         sd_bus_message* made = nullptr;
         check(sd_bus_message_new_method_call(bus_.get(), &made, nullptr, "/", "a.b", "C"));
-        Message message(made);
+        foundation::BusMessage message(made);
         fill(*made);
         check(sd_bus_message_seal(made, 1, 0));
         check(sd_bus_message_rewind(made, true));
@@ -36,7 +36,7 @@ class Wire : public testing::Test {
     }
 
     template <class Value>
-    Message written(const Value& value) {
+    foundation::BusMessage written(const Value& value) {
         return message([&](sd_bus_message& message) { write(message, value); });
     }
 
@@ -112,18 +112,18 @@ TEST_F(Wire, RefusesRolesAndFamiliesThatThereAreNot) {
 }
 
 TEST_F(Wire, RefusesWhatIsOfAnotherType) {
-    const Message text = written(std::string_view("x"));
+    const foundation::BusMessage text = written(std::string_view("x"));
     EXPECT_THROW(readNumber(*text), std::system_error);
     EXPECT_THROW(readFace(*text), std::system_error);
     EXPECT_THROW(readGallery(*text), std::system_error);
-    const Message nothing = message([](sd_bus_message&) {});
+    const foundation::BusMessage nothing = message([](sd_bus_message&) {});
     EXPECT_THROW(readText(*nothing), std::system_error);
     EXPECT_THROW(readCount(*nothing), std::system_error);
     EXPECT_THROW(readAction(*nothing), std::system_error);
 }
 
 TEST_F(Wire, RefusesAnActionWithAValueOfNoParameter) {
-    const Message odd = message([](sd_bus_message& message) {
+    const foundation::BusMessage odd = message([](sd_bus_message& message) {
         write(message, std::string_view("x"));
         check(sd_bus_message_append(&message, "a(ayv)", 1, 1, 'n', "s", "text"));
     });
