@@ -91,14 +91,10 @@ void press(int count, const widgethost::SessionOptions& options) {
         card.await([&] { return card.changed > before; });
         times.push_back(millisecondsSince(start));
         // A person does not press faster; what is left of this press is over by then.
-        const auto pause = Clock::now() + std::chrono::milliseconds(120);
-        GSource* const tick = g_timeout_source_new(10);
-        g_source_set_callback(
-            tick, [](void*) -> gboolean { return G_SOURCE_CONTINUE; }, nullptr, nullptr);
-        g_source_attach(tick, nullptr);
-        card.await([&] { return Clock::now() >= pause; });
-        g_source_destroy(tick);
-        g_source_unref(tick);
+        bool isOver = false;
+        const widgethost::Source pause =
+            widgethost::after(std::chrono::milliseconds(120), [&] { isOver = true; });
+        card.await([&] { return isOver; });
     }
     print(times);
 }

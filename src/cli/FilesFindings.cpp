@@ -5,6 +5,7 @@
 #include "estado/GrupoDeApps.hpp"
 #include "platform/canvas/FontFiles.hpp"
 #include "platform/foundation/Entitlements.hpp"
+#include "vistas/Cara.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -15,9 +16,6 @@ namespace {
 
 using enum Finding::Kind;
 
-/// From this age on, in seconds, the widgets take the host application for closed.
-constexpr double oldest = 900;
-
 Finding snapshotFinding(const foundation::Environment& environment,
                         const std::filesystem::path& file) {
     if (const auto reason = whyNoSnapshot(environment))
@@ -25,7 +23,7 @@ Finding snapshotFinding(const foundation::Environment& environment,
     const double age =
         environment.clock.now().timeIntervalSince(nurva::cargarEstado(environment)->cuando);
     const auto seconds = static_cast<std::int64_t>(std::clamp(std::round(age), -1e12, 1e12));
-    if (age < oldest)
+    if (age < nurva::segundosDeVigencia)
         return {holds, message("estado: %@, de hace %lld segundos", {file.string(), seconds})};
     return {note, message("estado: %@, de hace %lld segundos: los widgets dicen que Nurva está "
                           "cerrado",

@@ -1,13 +1,15 @@
 #include "desktop/FocusOrder.hpp"
 
+#include "widgethost/Direction.hpp"
+
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace desktop {
 
 namespace {
 
+using widgethost::Direction;
 using Elements = std::vector<remote::Element>;
 
 bool takesFocus(const remote::Element& element) {
@@ -49,19 +51,27 @@ views::Point middle(const views::Rect& frame) {
     return {frame.x + frame.width / 2, frame.y + frame.height / 2};
 }
 
-std::optional<std::size_t> nextOnSide(const Elements& elements, std::size_t from, FocusMove move) {
+std::optional<Direction> direction(FocusMove move) {
+    switch (move) {
+        case FocusMove::left:
+            return Direction::left;
+        case FocusMove::right:
+            return Direction::right;
+        case FocusMove::up:
+            return Direction::up;
+        case FocusMove::down:
+            return Direction::down;
+        case FocusMove::forward:
+        case FocusMove::backward:
+            break;
+    }
+    return std::nullopt;
+}
+
+std::optional<std::size_t> nextOnSide(const Elements& elements, std::size_t from, Direction way) {
     const views::Point start = middle(elements[from].frame);
     return cheapest(elements, [&](std::size_t i) -> std::optional<double> {
-        const views::Point at = middle(elements[i].frame);
-        double along = at.x - start.x;
-        double aside = at.y - start.y;
-        if (move == FocusMove::up || move == FocusMove::down)
-            std::swap(along, aside);
-        if (move == FocusMove::left || move == FocusMove::up)
-            along = -along;
-        if (along < 1)
-            return std::nullopt;
-        return along + 4 * std::abs(aside);
+        return widgethost::distance(start, middle(elements[i].frame), way, 4);
     });
 }
 
@@ -75,9 +85,10 @@ bool areOfTheSameKinds(const Elements& one, const Elements& other) {
 std::optional<std::size_t> nextFocus(const Elements& elements,
                                      std::optional<std::size_t> from,
                                      FocusMove move) {
-    if (move == FocusMove::forward || move == FocusMove::backward || !from)
+    const auto way = direction(move);
+    if (!way || !from)
         return nextInOrder(elements, from, move != FocusMove::backward);
-    return nextOnSide(elements, *from, move);
+    return nextOnSide(elements, *from, *way);
 }
 
 std::optional<std::size_t> focusAfterChange(const Elements& before,

@@ -1,5 +1,6 @@
 #include "desktop/Options.hpp"
 
+#include "platform/foundation/InstalledProgram.hpp"
 #include "platform/foundation/Message.hpp"
 
 #include <glib.h>
@@ -7,7 +8,6 @@
 #include <limits>
 #include <memory>
 #include <stdexcept>
-#include <system_error>
 
 namespace desktop {
 
@@ -23,21 +23,7 @@ struct FreeContext {
     void operator()(GOptionContext* context) const { g_option_context_free(context); }
 };
 
-/// The extension lies beside this program, in the tree where it is built as where it is installed;
-/// where this one is among the user's programs, among those of the system.
-std::filesystem::path extensionBeside(const std::filesystem::path& program) {
-    const std::filesystem::path folder = program.parent_path();
-    const char* name = "nurva-widgets-extension";
-    std::error_code ignored;
-    if (std::filesystem::exists(folder / name, ignored))
-        return folder / name;
-    return folder.parent_path() / "libexec" / "nurva-widgets" / name;
-}
-
-std::filesystem::path ownProgram() {
-    std::error_code ignored;
-    return std::filesystem::read_symlink("/proc/self/exe", ignored);
-}
+constexpr const char* ownExtension = "nurva-widgets-extension";
 
 }  // namespace
 
@@ -85,7 +71,7 @@ Options Options::of(int argumentCount, char** arguments) {
         options.scale = scale;
     options.session.requiresSandbox = requireSandbox != FALSE;
     options.session.extension =
-        path ? std::filesystem::path(path.get()) : extensionBeside(ownProgram());
+        path ? path.get() : foundation::installedProgram(ownExtension).value_or(ownExtension);
     return options;
 }
 

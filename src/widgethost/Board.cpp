@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace widgethost {
 
@@ -72,16 +71,7 @@ std::optional<Spot> Board::first(std::int64_t span) const {
 std::optional<Spot> Board::next(Spot from, Direction direction, std::int64_t span) const {
     const views::Point start = origin(from);
     return cheapest(span, [&](const Spot& spot) -> std::optional<double> {
-        const views::Point at = origin(spot);
-        double along = at.x - start.x;
-        double aside = at.y - start.y;
-        if (direction == Direction::up || direction == Direction::down)
-            std::swap(along, aside);
-        if (direction == Direction::left || direction == Direction::up)
-            along = -along;
-        if (along <= 0)
-            return std::nullopt;
-        return along + 2 * std::abs(aside);
+        return distance(start, origin(spot), direction, 2);
     });
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "widgethost/Direction.hpp"
 #include "widgethost/Grid.hpp"
 #include "widgethost/Monitor.hpp"
 #include "widgethost/Placement.hpp"
@@ -18,8 +19,6 @@ struct Spot {
     Cell cell;
     bool operator==(const Spot&) const = default;
 };
-
-enum class Direction { left, right, up, down };
 
 /// The grids of all monitors and what stands on them; nothing stands on anything else. The first
 /// monitor is the primary one. Never fails.

@@ -81,19 +81,23 @@ void Session::Contents::goOn() {
 }
 
 void Session::Contents::want(Slot slot) {
-    if (std::ranges::find(waiting_, slot) == waiting_.end())
-        waiting_.push_back(slot);
+    enqueue(slot);
     askNext();
 }
 
 void Session::Contents::want(const ReloadPacing::Kinds& kinds) {
     for (const auto& [slot, card] : cards_)
         if (kinds.contains("") || kinds.contains(card.kind))
-            if (std::ranges::find(waiting_, slot) == waiting_.end())
-                waiting_.push_back(slot);
+            enqueue(slot);
     // Whoever is known to stop the extension comes last.
-    std::ranges::stable_partition(waiting_, [&](Slot slot) { return !cards_.at(slot).isCulprit; });
+    std::stable_partition(waiting_.begin(), waiting_.end(),
+                          [&](Slot slot) { return !cards_.at(slot).isCulprit; });
     askNext();
+}
+
+void Session::Contents::enqueue(Slot slot) {
+    if (std::ranges::find(waiting_, slot) == waiting_.end())
+        waiting_.push_back(slot);
 }
 
 void Session::Contents::started() {

@@ -39,6 +39,7 @@ struct Session::Contents {
     void stopped(Ending ending);
     void take(std::vector<remote::WidgetDescription> widgets);
 
+    void enqueue(Slot slot);
     void goOn();
     void askNext();
     void ask(ExtensionLink& link, Slot slot);
