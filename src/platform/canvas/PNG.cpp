@@ -1,126 +1,138 @@
 #include "platform/canvas/PNG.hpp"
 
-#include <png.h>
+#include <libdeflate.h>
 
 #include <algorithm>
-#include <csetjmp>
 #include <cstddef>
+#include <cstring>
+#include <limits>
+#include <memory>
+#include <span>
 #include <stdexcept>
-#include <utility>
-#include <vector>
+#include <string_view>
 
 namespace canvas {
 
 namespace {
 
+using namespace std::string_view_literals;
+
 constexpr int fastest = 1;
+constexpr std::size_t bytesOfPixel = 4;
+constexpr std::size_t longestChunk = std::numeric_limits<std::int32_t>::max();
+constexpr std::string_view signature = "\x89PNG\r\n\x1a\n";
+constexpr auto rgbaOf8BitsNotInterlaced = "\x08\x06\0\0\0"sv;
+constexpr auto perceptual = "\0"sv;
 
-/// Where libpng writes, and what it said when it gave up.
-struct Output {
-    std::string file;
-    std::string failure;
+struct CompressorDeleter {
+    void operator()(libdeflate_compressor* compressor) const {
+        libdeflate_free_compressor(compressor);
+    }
 };
 
-[[noreturn]] void fail(png_structp png, png_const_charp message) {
-    static_cast<Output*>(png_get_error_ptr(png))->failure = message;
-    png_longjmp(png, 1);
+[[noreturn]] void fail(const char* reason) {
+    throw std::runtime_error(std::string("no PNG: ") + reason);
 }
 
-void ignoreWarning(png_structp, png_const_charp) {}
+std::string bigEndian(std::size_t number) {
+    std::string bytes;
+    for (const int shift : {24, 16, 8, 0})
+        bytes += static_cast<char>(number >> shift & 0xFF);
+    return bytes;
+}
 
-void append(png_structp png, png_bytep bytes, std::size_t count) {
-    bool appended = false;
-    try {
-        static_cast<Output*>(png_get_io_ptr(png))
-            ->file.append(reinterpret_cast<const char*>(bytes), count);
-        appended = true;
-    } catch (const std::exception&) {
+/// Adds a chunk: the length of its contents, its type, the contents, a checksum of both.
+void add(std::string& file, std::string_view type, std::string_view contents) {
+    file += bigEndian(contents.size());
+    const std::size_t start = file.size();
+    file += type;
+    file += contents;
+    file += bigEndian(libdeflate_crc32(0, file.data() + start, file.size() - start));
+}
+
+std::uint32_t straight(std::uint32_t component, std::uint32_t alpha) {
+    return std::min((component * 255 + alpha / 2) / alpha, 255u);
+}
+
+/// A pixel's red, green, blue and alpha, in this order from the lowest byte, its colors as they
+/// are.
+std::uint32_t rgba(std::uint32_t argb) {
+    return (argb & 0xFF00FF00) | (argb >> 16 & 0xFF) | (argb & 0xFF) << 16;
+}
+
+std::uint32_t straightRGBA(std::uint32_t argb) {
+    const std::uint32_t alpha = argb >> 24;
+    return straight(argb >> 16 & 0xFF, alpha) | straight(argb >> 8 & 0xFF, alpha) << 8 |
+           straight(argb & 0xFF, alpha) << 16 | alpha << 24;
+}
+
+/// The few pixels that are neither opaque nor empty have turns of their own, so that the many go
+/// several at a time.
+void writeRow(std::span<const std::uint32_t> argb, char* to) {
+    for (std::size_t x = 0; x < argb.size(); ++x) {
+        const std::uint32_t pixel = rgba(argb[x]);
+        std::memcpy(to + x * bytesOfPixel, &pixel, bytesOfPixel);
     }
-    if (!appended)
-        png_error(png, "out of memory");
-}
-
-void flushNothing(png_structp) {}
-
-class Writer {
-  public:
-    explicit Writer(Output& output)
-        : png_(png_create_write_struct(PNG_LIBPNG_VER_STRING, &output, fail, ignoreWarning)),
-          info_(png_ ? png_create_info_struct(png_) : nullptr) {
-        if (info_)
-            png_set_write_fn(png_, &output, append, flushNothing);
-    }
-    ~Writer() { png_destroy_write_struct(&png_, &info_); }
-    Writer(const Writer&) = delete;
-    Writer& operator=(const Writer&) = delete;
-
-    explicit operator bool() const { return info_ != nullptr; }
-    png_structp png() const { return png_; }
-    png_infop info() const { return info_; }
-
-  private:
-    png_structp png_;
-    png_infop info_;
-};
-
-std::uint8_t straight(std::uint32_t component, std::uint32_t alpha) {
-    const std::uint32_t value = (component * 255 + alpha / 2) / alpha;
-    return static_cast<std::uint8_t>(value < 255 ? value : 255);
-}
-
-void writeRow(std::span<const std::uint32_t> argb, std::uint8_t* rgba) {
-    for (const std::uint32_t pixel : argb) {
-        const std::uint32_t alpha = pixel >> 24;
-        const std::uint32_t red = pixel >> 16 & 0xFF;
-        const std::uint32_t green = pixel >> 8 & 0xFF;
-        const std::uint32_t blue = pixel & 0xFF;
-        if (alpha == 255 || alpha == 0) {
-            rgba[0] = static_cast<std::uint8_t>(red);
-            rgba[1] = static_cast<std::uint8_t>(green);
-            rgba[2] = static_cast<std::uint8_t>(blue);
-        } else {
-            rgba[0] = straight(red, alpha);
-            rgba[1] = straight(green, alpha);
-            rgba[2] = straight(blue, alpha);
+    for (std::size_t x = 0; x < argb.size(); ++x)
+        if (const std::uint32_t alpha = argb[x] >> 24; alpha != 255 && alpha != 0) {
+            const std::uint32_t pixel = straightRGBA(argb[x]);
+            std::memcpy(to + x * bytesOfPixel, &pixel, bytesOfPixel);
         }
-        rgba[3] = static_cast<std::uint8_t>(alpha);
-        rgba += 4;
-    }
 }
 
-/// False when libpng gave up: it jumps back here over its own frames and this one, which therefore
-/// holds nothing that would have to be released.
-bool write(const Writer& writer, const Pixels& pixels, std::uint8_t* row) {
-    png_structp png = writer.png();
-    png_infop info = writer.info();
-    if (setjmp(png_jmpbuf(png)))
-        return false;
-    png_set_compression_level(png, fastest);
-    png_set_filter(png, PNG_FILTER_TYPE_BASE, PNG_FILTER_NONE);
-    png_set_IHDR(png, info, static_cast<png_uint_32>(pixels.size.width),
-                 static_cast<png_uint_32>(pixels.size.height), 8, PNG_COLOR_TYPE_RGB_ALPHA,
-                 PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
-    png_set_sRGB(png, info, PNG_sRGB_INTENT_PERCEPTUAL);
-    png_write_info(png, info);
-    for (int y = 0; y < pixels.size.height; ++y) {
-        writeRow(pixels.row(y), row);
-        png_write_row(png, row);
+/// Bytes that hold nothing yet.
+struct Bytes {
+    explicit Bytes(std::size_t count)
+        : start(std::make_unique_for_overwrite<char[]>(count)), size(count) {}
+
+    std::unique_ptr<char[]> start;
+    std::size_t size;
+};
+
+/// The rows as they are compressed, each behind the number of its filter. No filter: on flat colors
+/// they make a file larger and take their time.
+Bytes filtered(const Pixels& pixels) {
+    constexpr char none = 0;
+    const std::size_t rowSize = static_cast<std::size_t>(pixels.size.width) * bytesOfPixel + 1;
+    Bytes rows(rowSize * static_cast<std::size_t>(pixels.size.height));
+    char* to = rows.start.get();
+    for (int y = 0; y < pixels.size.height; ++y, to += rowSize) {
+        to[0] = none;
+        writeRow(pixels.row(y), to + 1);
     }
-    png_write_end(png, info);
-    return true;
+    return rows;
+}
+
+Bytes compressed(const Bytes& bytes) {
+    const std::unique_ptr<libdeflate_compressor, CompressorDeleter> compressor(
+        libdeflate_alloc_compressor(fastest));
+    if (!compressor)
+        fail("out of memory");
+    Bytes result(libdeflate_zlib_compress_bound(compressor.get(), bytes.size));
+    result.size = libdeflate_zlib_compress(compressor.get(), bytes.start.get(), bytes.size,
+                                           result.start.get(), result.size);
+    return result;
 }
 
 }  // namespace
 
 std::string encodePNG(const Pixels& pixels) {
-    Output output;
-    const Writer writer(output);
-    if (!writer)
-        throw std::runtime_error("no PNG: libpng cannot be used");
-    std::vector<std::uint8_t> row(static_cast<std::size_t>(std::max(pixels.size.width, 0)) * 4);
-    if (!write(writer, pixels, row.data()))
-        throw std::runtime_error("no PNG: " + output.failure);
-    return std::move(output.file);
+    if (pixels.size.width <= 0 || pixels.size.height <= 0)
+        fail("a picture without pixels");
+    const Bytes contents = compressed(filtered(pixels));
+    if (contents.size > longestChunk)
+        fail("too many pixels");
+    std::string file;
+    file.reserve(contents.size + 100);
+    file += signature;
+    add(file, "IHDR",
+        bigEndian(static_cast<std::size_t>(pixels.size.width)) +
+            bigEndian(static_cast<std::size_t>(pixels.size.height)) +
+            std::string(rgbaOf8BitsNotInterlaced));
+    add(file, "sRGB", perceptual);
+    add(file, "IDAT", {contents.start.get(), contents.size});
+    add(file, "IEND", {});
+    return file;
 }
 
 }  // namespace canvas
