@@ -1,12 +1,13 @@
 #pragma once
 
-#include "desktop/Card.hpp"
+#include "desktop/Offers.hpp"
+#include "desktop/PlacedList.hpp"
 #include "desktop/WidgetSource.hpp"
 
 #include <gtk/gtk.h>
 
 #include <functional>
-#include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -44,27 +45,14 @@ class Gallery {
     GtkWindow* window() const { return window_; }
 
   private:
-    struct Sample {
-        std::unique_ptr<Card> card;
-        std::unique_ptr<widgethost::Display> display;
-    };
+    void listen();
 
-    GtkWidget* offer(const remote::WidgetDescription& widget);
-    GtkWidget* placedRow(std::size_t index);
-    std::size_t focusedRow() const;
-    GtkWidget* sample(const remote::WidgetDescription& widget);
-
-    WidgetSource& source_;
-    double unitsPerPoint_;
-    bool canPlace_;
     Requests requests_;
     GtkWindow* window_;
-    GtkWidget* offers_;
+    Offers offers_;
     GtkWidget* notice_;
-    GtkWidget* placed_;
-    std::vector<Sample> samples_;
-    std::vector<std::string> names_;  // of the placed widgets
-    std::vector<GtkWidget*> removeButtons_;
+    PlacedList placed_;
+    std::optional<std::vector<std::string>> names_;  // of the placed widgets, once they are shown
 };
 
 }  // namespace desktop

@@ -25,6 +25,7 @@ window.nurva-by-keys nurva-card:focus { outline: 2px solid white; outline-offset
 .nurva-stopped-title { font-weight: 600; font-size: 12px; }
 .nurva-stopped-line { color: #98a0a4; font-size: 11px; }
 popover.nurva-opaque > contents { margin: 0; border-radius: 0; box-shadow: none; }
+.nurva-gallery { margin: 24px; }
 .nurva-gallery-name { font-weight: 600; }
 )";
 
