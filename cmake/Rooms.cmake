@@ -29,19 +29,29 @@ endfunction()
 set(NURVA_TEST_ENVIRONMENT
     "G_DEBUG=fatal-criticals;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
 
+# A program of tests. DEFINITIONS are for its sources; PROGRAMS are built before it is run.
+function(nurva_test_program name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;ROOMS;LIBRARIES;DEFINITIONS;PROGRAMS" ${ARGN})
+    list(TRANSFORM ARG_ROOMS PREPEND nurva_)
+    add_executable(${name}_test ${ARG_SOURCES})
+    target_include_directories(${name}_test PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    target_compile_definitions(${name}_test PRIVATE
+        NURVA_TESTS_FOLDER="${PROJECT_SOURCE_DIR}/tests"
+        NURVA_RESOURCES_FOLDER="${PROJECT_SOURCE_DIR}/resources"
+        ${ARG_DEFINITIONS})
+    target_link_libraries(${name}_test PRIVATE
+        ${ARG_ROOMS} ${ARG_LIBRARIES} GTest::gmock GTest::gtest_main)
+    if(ARG_PROGRAMS)
+        add_dependencies(${name}_test ${ARG_PROGRAMS})
+    endif()
+    add_test(NAME ${name} COMMAND ${name}_test)
+    # Only what hangs takes so long, under sanitizers on a busy machine too.
+    set_tests_properties(${name} PROPERTIES TIMEOUT 1800 ENVIRONMENT "${NURVA_TEST_ENVIRONMENT}")
+endfunction()
+
 # The tests of one room, as one program. The room is linked whole with nothing but the rooms it names,
 # so a room that reaches for one above it does not link.
 function(nurva_test room)
-    cmake_parse_arguments(ARG "" "" "SOURCES;ROOMS;LIBRARIES" ${ARGN})
-    list(TRANSFORM ARG_ROOMS PREPEND nurva_)
-    add_executable(${room}_test ${ARG_SOURCES})
-    target_include_directories(${room}_test PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-    target_compile_definitions(${room}_test PRIVATE
-        NURVA_TESTS_FOLDER="${PROJECT_SOURCE_DIR}/tests"
-        NURVA_RESOURCES_FOLDER="${PROJECT_SOURCE_DIR}/resources")
-    target_link_libraries(${room}_test PRIVATE
-        "$<LINK_LIBRARY:WHOLE_ARCHIVE,nurva_${room}>" ${ARG_ROOMS} ${ARG_LIBRARIES}
-        GTest::gmock GTest::gtest_main)
-    add_test(NAME ${room} COMMAND ${room}_test)
-    set_tests_properties(${room} PROPERTIES TIMEOUT 300 ENVIRONMENT "${NURVA_TEST_ENVIRONMENT}")
+    nurva_test_program(${room} ${ARGN})
+    target_link_libraries(${room}_test PRIVATE "$<LINK_LIBRARY:WHOLE_ARCHIVE,nurva_${room}>")
 endfunction()
