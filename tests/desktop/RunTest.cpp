@@ -1,8 +1,10 @@
 #include "desktop/TestScreen.hpp"
 #include "support/ChildProcess.hpp"
+#include "support/Patience.hpp"
 #include "support/PrivateSessionBus.hpp"
 #include "support/Program.hpp"
 #include "support/TemporaryFolder.hpp"
+#include "support/XServer.hpp"
 
 #include <gmock/gmock.h>
 
@@ -111,16 +113,13 @@ TEST_F(Program, RunsWithoutASessionBus) {
 }
 
 TEST_F(Program, EndsWithAMessageWhenTheDisplayGoesAway) {
-    support::ChildProcess server(
-        {"sh", "-c", "exec Xvfb -displayfd 1 -screen 0 800x600x24 -nolisten tcp 2>/dev/null"});
-    const auto number = server.line();
-    ASSERT_TRUE(number);
+    support::XServer server(800, 600);
     support::ChildProcess program(
-        {"sh", "-c", "DISPLAY=:" + *number + " '" PAINTED_DESKTOP "' 2>&1; echo $?"});
+        {"sh", "-c", "DISPLAY=" + server.display() + " '" PAINTED_DESKTOP "' 2>&1; echo $?"});
     ASSERT_TRUE(screen::waitFor([&] {
         return std::filesystem::exists(folder.path() / "nurva-widgets" / "placement.json");
     }));
-    server.kill();
+    server.end();
     EXPECT_EQ(program.line(), "nurva-desktop: se ha perdido la pantalla");
     EXPECT_EQ(program.line(), "1");
 }
@@ -141,7 +140,7 @@ TEST_F(Program, NothingWakesItAtRest) {
     support::ChildProcess program({"sh", "-c", "echo $$; exec '" PAINTED_DESKTOP "'"});
     const std::string process = program.line().value_or("");
     EXPECT_TRUE(hasWindows(4));
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    const auto deadline = std::chrono::steady_clock::now() + support::patience;
     bool isStill = false;
     while (!isStill && std::chrono::steady_clock::now() < deadline) {
         const std::uint64_t before = sleeps(process);

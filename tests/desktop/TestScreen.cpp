@@ -3,20 +3,20 @@
 #include "desktop/Connect.hpp"
 #include "desktop/Reference.hpp"
 #include "desktop/Style.hpp"
-#include "support/ChildProcess.hpp"
-#include "support/TemporaryFolder.hpp"
+#include "support/ManagedScreen.hpp"
+#include "support/Patience.hpp"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <chrono>
-#include <filesystem>
+#include <cstdlib>
 #include <memory>
+#include <optional>
 #include <stdexcept>
 
 // After the others: its macros are common words.
 // clang-format off
-#include <X11/Xatom.h>
 #include <X11/Xutil.h>
 #include <X11/extensions/XTest.h>
 #include <gdk/x11/gdkx.h>
@@ -28,44 +28,10 @@ namespace screen {
 
 namespace {
 
-bool hasWindowManager() {
-    Display* display = XOpenDisplay(nullptr);
-    if (!display)
-        return false;
-    const Atom check = XInternAtom(display, "_NET_SUPPORTING_WM_CHECK", False);
-    Atom type = None;
-    int format = 0;
-    unsigned long count = 0;
-    unsigned long rest = 0;
-    unsigned char* data = nullptr;
-    XGetWindowProperty(display, DefaultRootWindow(display), check, 0, 1, False, XA_WINDOW, &type,
-                       &format, &count, &rest, &data);
-    if (data)
-        XFree(data);
-    XCloseDisplay(display);
-    return count > 0;
-}
-
 class Screen : public testing::Environment {
   public:
     void SetUp() override {
-        server_ = std::make_unique<support::ChildProcess>(std::vector<std::string>{
-            "sh", "-c",
-            "exec Xvfb -displayfd 1 -screen 0 1280x800x24 -nolisten tcp -noreset 2>/dev/null"});
-        const auto number = server_->line();
-        if (!number)
-            throw std::runtime_error("no X server");
-        ::setenv("DISPLAY", (":" + *number).c_str(), 1);
-        // Nothing of the user's own: no keys, no menus.
-        const std::filesystem::path settings = folder_.write(
-            "rc.xml", "<openbox_config xmlns=\"http://openbox.org/3.4/rc\"></openbox_config>");
-        manager_ = std::make_unique<support::ChildProcess>(std::vector<std::string>{
-            "sh", "-c",
-            "exec openbox --config-file '" + settings.string() + "' --sm-disable 2>/dev/null"});
-        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-        while (!hasWindowManager())
-            if (std::chrono::steady_clock::now() > deadline)
-                throw std::runtime_error("no window manager");
+        screen_.emplace(1280, 800);
         ::setenv("GDK_BACKEND", "x11", 1);
         ::setenv("GSK_RENDERER", "cairo", 1);
         ::setenv("GDK_DEBUG", "gl-disable", 1);
@@ -79,14 +45,11 @@ class Screen : public testing::Environment {
     }
     void TearDown() override {
         gdk_display_close(gdk_display_get_default());
-        manager_.reset();
-        server_.reset();
+        screen_.reset();
     }
 
   private:
-    support::TemporaryFolder folder_;
-    std::unique_ptr<support::ChildProcess> server_;
-    std::unique_ptr<support::ChildProcess> manager_;
+    std::optional<support::ManagedScreen> screen_;
 };
 
 const auto* const environment = testing::AddGlobalTestEnvironment(new Screen);
@@ -119,7 +82,7 @@ void waitForFrame(GtkWidget* window) {
 }  // namespace
 
 bool waitFor(const std::function<bool()>& condition) {
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(5);
+    const auto deadline = std::chrono::steady_clock::now() + support::patience;
     // Not every change wakes the main loop.
     const unsigned tick = g_timeout_add(
         5, [](gpointer) -> gboolean { return TRUE; }, nullptr);

@@ -15,8 +15,7 @@ namespace desktop {
 /// GTK is ready for it, and its accessibility is the one that tests can ask.
 namespace screen {
 
-/// Goes on with the main loop until the condition holds; false when it takes more than five
-/// seconds.
+/// Goes on with the main loop until the condition holds; false when it does not in time.
 bool waitFor(const std::function<bool()>& condition);
 
 /// Goes on with the main loop until everything that has been asked of the server is done, and every

@@ -1,8 +1,5 @@
 #include "journeys/Screen.hpp"
 
-#include "journeys/Waiting.hpp"
-
-#include <cstdlib>
 #include <stdexcept>
 #include <utility>
 
@@ -51,29 +48,11 @@ std::string title(Display* display, Window window) {
 
 }  // namespace
 
-Screen::Screen(canvas::PixelSize size) : size_(size) {
-    const std::string pixels = std::to_string(size.width) + "x" + std::to_string(size.height);
-    server_ = std::make_unique<support::ChildProcess>(std::vector<std::string>{
-        "sh", "-c",
-        "exec Xvfb -displayfd 1 -screen 0 " + pixels + "x24 -nolisten tcp -noreset 2>/dev/null"});
-    const auto number = server_->line();
-    if (!number)
-        throw std::runtime_error("no X server");
-    ::setenv("DISPLAY", (":" + *number).c_str(), 1);
-    // Nothing of the user's own: no keys, no menus.
-    const std::filesystem::path settings = folder_.write(
-        "rc.xml", "<openbox_config xmlns=\"http://openbox.org/3.4/rc\"></openbox_config>");
-    manager_ = std::make_unique<support::ChildProcess>(std::vector<std::string>{
-        "sh", "-c",
-        "exec openbox --config-file '" + settings.string() + "' --sm-disable 2>/dev/null"});
+Screen::Screen(canvas::PixelSize size) : size_(size), screen_(size.width, size.height) {
     XSetErrorHandler(ignore);
     display_.reset(XOpenDisplay(nullptr));
-    if (!display_ || !soon([&] {
-            return !property(display_.get(), DefaultRootWindow(display_.get()),
-                             "_NET_SUPPORTING_WM_CHECK", 32)
-                        .empty();
-        }))
-        throw std::runtime_error("no window manager");
+    if (!display_)
+        throw std::runtime_error("no display");
     settings_.emplace(display_.get());
     movePointer(size.width - 1, size.height - 1);
 }
@@ -84,8 +63,7 @@ Screen::~Screen() {
 
 void Screen::end() {
     display_.reset();
-    if (server_)
-        server_->kill();
+    screen_.end();
 }
 
 void Screen::Disconnect::operator()(_XDisplay* display) const {

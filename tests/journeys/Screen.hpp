@@ -2,8 +2,7 @@
 
 #include "journeys/Picture.hpp"
 #include "journeys/SettingsManager.hpp"
-#include "support/ChildProcess.hpp"
-#include "support/TemporaryFolder.hpp"
+#include "support/ManagedScreen.hpp"
 
 #include <memory>
 #include <optional>
@@ -51,9 +50,7 @@ class Screen {
     };
 
     canvas::PixelSize size_;
-    support::TemporaryFolder folder_;
-    std::unique_ptr<support::ChildProcess> server_;
-    std::unique_ptr<support::ChildProcess> manager_;
+    support::ManagedScreen screen_;
     std::unique_ptr<_XDisplay, Disconnect> display_;
     std::optional<SettingsManager> settings_;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/foundation/FileDescriptor.hpp"
+#include "support/Patience.hpp"
 
 #include <fcntl.h>
 #include <poll.h>
@@ -61,7 +62,7 @@ class ChildProcess {
     }
 
     /// The next line of output, without its end; nothing when none comes in time.
-    std::optional<std::string> line(std::chrono::milliseconds patience = std::chrono::seconds(10)) {
+    std::optional<std::string> line() {
         const auto deadline = std::chrono::steady_clock::now() + patience;
         std::size_t end;
         while ((end = read_.find('\n')) == std::string::npos) {
