@@ -2,6 +2,7 @@
 #include "platform/foundation/FileError.hpp"
 #include "platform/foundation/ReadFile.hpp"
 #include "platform/foundation/json/JSONDecoder.hpp"
+#include "support/Patience.hpp"
 #include "support/PrivateSessionBus.hpp"
 #include "support/Program.hpp"
 
@@ -73,7 +74,8 @@ struct InstalledLibrary : Installed {
     /// The level of the first application, once it is this or the time is up.
     double level(double expected) const {
         std::optional<double> published;
-        for (int turn = 0; turn < 250 && published != expected; ++turn) {
+        const auto deadline = std::chrono::steady_clock::now() + support::patience;
+        while (published != expected && std::chrono::steady_clock::now() < deadline) {
             try {
                 const auto text = foundation::readFile(
                     home.path() / "group-containers/group.org.nurva.Nurva/estado.json");

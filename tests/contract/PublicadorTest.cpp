@@ -4,6 +4,7 @@
 #include "platform/foundation/SessionBus.hpp"
 #include "platform/foundation/SystemClock.hpp"
 #include "platform/foundation/json/JSONDecoder.hpp"
+#include "support/Patience.hpp"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +14,6 @@ namespace nurva {
 namespace {
 
 namespace fs = std::filesystem;
-using namespace std::chrono_literals;
 
 struct PublicadorTest : UserWithBus {
     std::string bytes() const { return foundation::readFile(container() / "estado.json"); }
@@ -59,7 +59,7 @@ TEST_F(PublicadorTest, LeavesTheLastSnapshotWhereTheNextCannotBeWritten) {
 }
 
 TEST_F(PublicadorTest, AsksTheWidgetHostToReload) {
-    const auto limite = foundation::Deadline::clock::now() + 5s;
+    const auto limite = foundation::Deadline::clock::now() + support::patience;
     const foundation::SessionBus escritorio = foundation::openSessionBus(limite);
     ASSERT_GE(sd_bus_request_name(escritorio.get(), "org.nurva.WidgetCenter", 0), 0);
     bool seLePidio = false;
@@ -71,8 +71,11 @@ TEST_F(PublicadorTest, AsksTheWidgetHostToReload) {
     sd_bus_add_object(escritorio.get(), nullptr, "/org/nurva/WidgetCenter", oir, &seLePidio);
     Publicador().publicar({});
     while (!seLePidio && foundation::Deadline::clock::now() < limite)
-        if (sd_bus_process(escritorio.get(), nullptr) == 0)
-            sd_bus_wait(escritorio.get(), 100'000);
+        if (sd_bus_process(escritorio.get(), nullptr) == 0) {
+            sd_bus_wait(escritorio.get(), 1'000'000);
+            // A bus that is too busy is told later.
+            Publicador().publicar({});
+        }
     EXPECT_TRUE(seLePidio);
 }
 

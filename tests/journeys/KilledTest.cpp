@@ -65,7 +65,8 @@ struct VolumeUser {
     void setNext() { EXPECT_TRUE(reader->press(levels[++next % levels.size()].control)); }
     bool seesLevel() {
         const Picture& card = levels[next % levels.size()].card;
-        return soon([&] { return isSeen(card, session.screen.pictureOf(volume.name)); }, 1s);
+        return soon([&] { return isSeen(card, session.screen.pictureOf(volume.name)); },
+                    promised(1s));
     }
     void killExtension() {
         if (const pid_t extension = host->extension(); extension != 0)

@@ -49,7 +49,7 @@ std::string text(const foundation::BusMessage& answer, const char* signature = "
 
 std::string accessibilityAddress() {
     const auto session =
-        foundation::openSessionBus(std::chrono::steady_clock::now() + std::chrono::seconds(10));
+        foundation::openSessionBus(std::chrono::steady_clock::now() + support::patience);
     if (!session)
         throw std::system_error(ENOTCONN, std::generic_category(), "session bus");
     return text(call(session.get(), "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress"));
@@ -64,7 +64,7 @@ ScreenReader::ScreenReader() {
     check(sd_bus_set_address(bus, accessibilityAddress().c_str()));
     check(sd_bus_set_bus_client(bus, true));
     check(sd_bus_start(bus));
-    constexpr std::uint64_t microseconds = 3'000'000;
+    constexpr std::uint64_t microseconds = std::chrono::microseconds(support::patience).count();
     check(sd_bus_set_method_call_timeout(bus, microseconds));
 }
 

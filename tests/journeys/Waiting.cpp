@@ -5,6 +5,14 @@
 
 namespace journeys {
 
+namespace {
+
+bool isLong() {
+    return std::getenv("NURVA_LONG") != nullptr;
+}
+
+}  // namespace
+
 bool soon(const std::function<bool()>& condition, std::chrono::milliseconds patience) {
     const auto deadline = std::chrono::steady_clock::now() + patience;
     while (!condition()) {
@@ -15,8 +23,12 @@ bool soon(const std::function<bool()>& condition, std::chrono::milliseconds pati
     return true;
 }
 
+std::chrono::milliseconds promised(std::chrono::milliseconds time) {
+    return isLong() ? time : support::patience;
+}
+
 int times(int briefly, int atLength) {
-    return std::getenv("NURVA_LONG") ? atLength : briefly;
+    return isLong() ? atLength : briefly;
 }
 
 }  // namespace journeys

@@ -41,8 +41,8 @@ std::optional<int> WidgetHost::quit() {
     return ended();
 }
 
-std::optional<int> WidgetHost::ended(std::chrono::milliseconds patience) {
-    if (!soon([&] { return !isRunning(id_); }, patience))
+std::optional<int> WidgetHost::ended() {
+    if (!soon([&] { return !isRunning(id_); }))
         return std::nullopt;
     return process_.wait();
 }

@@ -4,7 +4,6 @@
 
 #include <sys/types.h>
 
-#include <chrono>
 #include <optional>
 #include <string>
 
@@ -26,7 +25,7 @@ class WidgetHost {
     std::optional<int> quit();
 
     /// Its exit status once it ends; nothing when it does not in time.
-    std::optional<int> ended(std::chrono::milliseconds patience = std::chrono::seconds(10));
+    std::optional<int> ended();
 
     /// The next line that it writes for its user.
     std::optional<std::string> line() { return process_.line(); }

@@ -1,3 +1,4 @@
+#include "support/Patience.hpp"
 #include "support/Program.hpp"
 #include "widgethost/ExtensionProcess.hpp"
 
@@ -8,6 +9,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <chrono>
 #include <cstdlib>
 #include <string>
 
@@ -45,6 +47,11 @@ int statusOfExtension(bool requiresSandbox, bool withoutLandlock) {
         ::setenv("ASAN_OPTIONS", "detect_leaks=0", 1);
         ::dup2(::open("/dev/null", O_WRONLY), STDERR_FILENO);
         widgethost::ExtensionProcess extension(NURVA_EXTENSION, requiresSandbox);
+        extension.takeSocket();
+        // Before it is asked to end, which it would have to at once.
+        const auto deadline = std::chrono::steady_clock::now() + support::patience;
+        while (!extension.hasEnded() && std::chrono::steady_clock::now() < deadline)
+            ::usleep(1000);
         ::_exit(extension.end());
     }
     int status = 0;

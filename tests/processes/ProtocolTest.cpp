@@ -33,7 +33,8 @@ class Conversation : public testing::Test {
         fill(*made);
         sd_bus_error error = SD_BUS_ERROR_NULL;
         sd_bus_message* answer = nullptr;
-        sd_bus_call(bus_.get(), made, 5'000'000, &error, &answer);
+        sd_bus_call(bus_.get(), made, std::chrono::microseconds(support::patience).count(), &error,
+                    &answer);
         answer_.reset(answer);
         std::string name = error.name ? error.name : "";
         sd_bus_error_free(&error);

@@ -1,22 +1,17 @@
 #include "extension/NurvaWidgets.hpp"
 #include "platform/canvas/PangoTextMeasurer.hpp"
 #include "platform/canvas/PixelCanvas.hpp"
-#include "platform/foundation/NotificationObserver.hpp"
-#include "platform/foundation/SystemClock.hpp"
 #include "platform/widgets/EntryRenderer.hpp"
-#include "platform/widgets/WidgetCenter.hpp"
 #include "processes/Stage.hpp"
 
-#include <glib.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-#include <utility>
+#include <chrono>
+#include <cstdint>
+#include <vector>
 
 namespace {
 
-using namespace std::chrono_literals;
 using widgethost::Session;
 
 constexpr const char* whatIsOn = "nurva.queEstaPuesto";
@@ -89,120 +84,10 @@ TEST(Session, ShowsAPlaceholderThenTheSnapshotInAPreview) {
     stage.publish(estado);
     Session session(realExtension());
     const Viewer viewer(session, whatIsOn, 1, true);
-    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
-    EXPECT_TRUE(viewer.shows("Música"));
-    ASSERT_TRUE(soon([&] { return viewer.shown == 2; }));
-    EXPECT_TRUE(viewer.shows("El de ahora"));
+    ASSERT_TRUE(soon([&] { return viewer.faces.size() == 2; }));
+    EXPECT_TRUE(hasElement(viewer.faces[0], "Música"));
+    EXPECT_TRUE(hasElement(viewer.faces[1], "El de ahora"));
     EXPECT_FALSE(viewer.face->reloadAfter);
-}
-
-TEST(Session, WantsToBeAskedAgainAfterAQuarterOfAnHour) {
-    const Stage stage;
-    Session session(realExtension());
-    const Viewer viewer(session, room);
-    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
-    const foundation::Date now = foundation::SystemClock().now();
-    EXPECT_NEAR(viewer.face->reloadAfter.value().timeIntervalSince(now), 900, 10);
-}
-
-TEST(Session, SendsWhatAPressAsksForAndTheOneSignal) {
-    Stage stage;
-    nurva::EstadoParaWidgets estado = music();
-    estado.apps = {{.id = "a", .nombre = "Música", .nivel = 0.4}};
-    stage.publish(estado);
-    int signals = 0;
-    foundation::NotificationObserver observer("org.nurva.Nurva.peticionDeWidget",
-                                              [&] { ++signals; });
-    Session session(realExtension());
-    Viewer viewer(session, volume);
-    ASSERT_TRUE(soon([&] { return viewer.shows("Subir"); }));
-    viewer.press("Subir");
-    ASSERT_TRUE(soon([&] { return observer.process() && signals == 1; }));
-    EXPECT_EQ(stage.request(), R"({"volumen":{"app":"a","nivel":0.5}})");
-}
-
-TEST(Session, AsksAWidgetAgainOnceItsActionIsDone) {
-    Stage stage;
-    stage.publish(music());
-    Session session(realExtension());
-    Viewer viewer(session, whatIsOn);
-    Viewer pressed(session, profiles);
-    ASSERT_TRUE(soon([&] { return viewer.shown == 1 && pressed.shown == 1; }));
-    pressed.display->press({.identifier = "AlternarEncendido"});
-    ASSERT_TRUE(soon([&] { return pressed.shown == 2; }));
-    letPass(50ms);
-    EXPECT_EQ(viewer.shown, 1);
-}
-
-TEST(Session, AsksAgainWhenTheSnapshotChanges) {
-    Stage stage;
-    stage.publish(music());
-    Session session(realExtension());
-    const Viewer viewer(session, whatIsOn);
-    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
-    nurva::EstadoParaWidgets other = music();
-    other.perfil = "Cine de noche";
-    stage.publish(other);
-    EXPECT_TRUE(soon([&] { return viewer.shows("Cine de noche"); }));
-    std::filesystem::remove(stage.container() / "estado.json");
-    EXPECT_TRUE(soon([&] { return !viewer.shows("Cine de noche"); }));
-}
-
-TEST(Session, FindsAContainerThatComesAfterIt) {
-    Stage stage;
-    Session session(realExtension());
-    const Viewer viewer(session, whatIsOn);
-    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
-    nurva::EstadoParaWidgets estado = music();
-    estado.perfil = "Recién llegado";
-    stage.publish(estado);
-    EXPECT_TRUE(soon([&] { return viewer.shows("Recién llegado"); }));
-    std::filesystem::remove_all(stage.container());
-    ASSERT_TRUE(soon([&] { return !viewer.shows("Recién llegado"); }));
-    stage.publish(estado);
-    EXPECT_TRUE(soon([&] { return viewer.shows("Recién llegado"); }));
-}
-
-TEST(Session, AsksAgainWhenTheHostApplicationSaysSo) {
-    Stage stage;
-    stage.publish(music());
-    Session session(realExtension());
-    const Viewer one(session, whatIsOn);
-    const Viewer other(session, room);
-    ASSERT_TRUE(soon([&] { return one.shown == 1 && other.shown == 1; }));
-    EXPECT_TRUE(soon([&] {
-        widgets::WidgetCenter::reloadAllTimelines();
-        return one.shown > 1 && other.shown > 1;
-    }));
-    letPass(250ms);
-    const int oneBefore = one.shown;
-    const int otherBefore = other.shown;
-    session.reload(room);
-    ASSERT_TRUE(soon([&] { return other.shown == otherBefore + 1; }));
-    letPass(50ms);
-    EXPECT_EQ(one.shown, oneBefore);
-}
-
-TEST(Session, PutsABurstOfReloadsTogetherAndShowsTheLastState) {
-    Stage stage;
-    stage.publish(music());
-    Session session(realExtension());
-    const Viewer viewer(session, whatIsOn);
-    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
-    nurva::EstadoParaWidgets estado = music();
-    const auto start = std::chrono::steady_clock::now();
-    int asked = 0;
-    while (std::chrono::steady_clock::now() < start + 1s) {
-        for (int i = 0; i < 100; ++i, ++asked)
-            session.reload();
-        estado.perfil = "Estado " + std::to_string(asked);
-        stage.publish(estado);
-        letPass(5ms);
-    }
-    const int shown = viewer.shown;
-    EXPECT_GE(shown, 10);
-    EXPECT_LE(shown, 26);  // twenty a second, for a little longer than that
-    EXPECT_TRUE(soon([&] { return viewer.shows(estado.perfil); }));
 }
 
 TEST(Session, DrawsInAnotherScaleWhenAsked) {
@@ -237,57 +122,6 @@ TEST(Session, SaysThatThereIsNoSuchWidget) {
     const Viewer viewer(session, "nurva.otra");
     ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
     EXPECT_FALSE(viewer.face);
-}
-
-TEST(Session, OutlivesTheBusAndFindsItAgain) {
-    Stage stage;
-    stage.publish(music());
-    Session session(realExtension());
-    const Viewer viewer(session, room);
-    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
-    stage.bus().end();
-    letPass(50ms);
-    stage.publish(music());
-    ASSERT_TRUE(soon([&] { return viewer.shown == 2; }));
-    stage.bus().start();
-    EXPECT_TRUE(soon([&] {
-        widgets::WidgetCenter::reloadAllTimelines();
-        return viewer.shown > 2;
-    }));
-}
-
-/// How often this thread has been on a processor because it wanted to.
-long turnsOfThisThread() {
-    std::ifstream status("/proc/thread-self/status");
-    for (std::string line; std::getline(status, line);)
-        if (line.starts_with("voluntary_ctxt_switches:"))
-            return std::stol(line.substr(line.find(':') + 1));
-    return -1;
-}
-
-TEST(Session, WakesNobodyAtRest) {
-    Stage stage;
-    stage.publish(music());
-    Session session(realExtension());
-    const Viewer viewer(session, room);
-    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
-    letPass(300ms);
-    while (g_main_context_iteration(nullptr, FALSE))
-        continue;
-    GSource* const end = g_timeout_source_new(300);
-    bool isOver = false;
-    g_source_set_callback(
-        end, [](void* over) -> gboolean { return *static_cast<bool*>(over) = true; }, &isOver,
-        nullptr);
-    g_source_attach(end, nullptr);
-    const long before = turnsOfThisThread();
-    int iterations = 0;
-    for (; !isOver; ++iterations)
-        g_main_context_iteration(nullptr, TRUE);
-    g_source_destroy(end);
-    g_source_unref(end);
-    EXPECT_LE(iterations, 3);
-    EXPECT_LE(turnsOfThisThread() - before, 3);
 }
 
 }  // namespace

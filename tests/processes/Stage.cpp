@@ -3,6 +3,7 @@
 #include "anfitrion/Escena.hpp"
 #include "platform/foundation/SystemClock.hpp"
 #include "platform/foundation/json/JSONEncoder.hpp"
+#include "platform/widgets/WidgetCenter.hpp"
 #include "support/Program.hpp"
 
 #include <glib.h>
@@ -12,6 +13,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <future>
 #include <stdexcept>
 
 namespace {
@@ -72,8 +74,24 @@ void letPass(std::chrono::milliseconds time) {
     soon([] { return false; }, time);
 }
 
+bool isReloadedFromOutside(const std::string& kind) {
+    using widgets::WidgetCenter::Answer;
+    // It waits for an answer of this very thread; and for the widget host to be on the bus.
+    auto answer = std::async(std::launch::async, [&] {
+        const auto deadline = std::chrono::steady_clock::now() + support::patience;
+        Answer last = Answer::noHost;
+        while (last != Answer::done && std::chrono::steady_clock::now() < deadline)
+            last = widgets::WidgetCenter::reloadTimelines(kind, support::patience);
+        return last;
+    });
+    return soon([&] {
+               return answer.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+           }) &&
+           answer.get() == Answer::done;
+}
+
 widgethost::SessionOptions realExtension() {
-    return {.extension = NURVA_EXTENSION};
+    return {.extension = NURVA_EXTENSION, .patience = support::patience};
 }
 
 pid_t extensionProcess() {
@@ -95,12 +113,17 @@ void signalExtension(int number) {
     ::kill(process, number);
 }
 
+bool hasElement(const remote::Face& face, const std::string& label) {
+    return std::ranges::find(face.elements, label, &remote::Element::label) != face.elements.end();
+}
+
 Viewer::Viewer(widgethost::Session& session, std::string kind, double scale, bool asPreview) {
     const auto show = [this](const widgethost::Shown& now) {
         ++shown;
         face.reset();
         if (now.face) {
             face = *now.face;
+            faces.push_back(*now.face);
             size = now.pixels.size;
             pixels.assign(now.pixels.argb.begin(), now.pixels.argb.end());
         }
@@ -116,11 +139,6 @@ const remote::Element& Viewer::element(const std::string& label) const {
             return *found;
     }
     throw std::runtime_error("nothing on the card is called " + label);
-}
-
-bool Viewer::shows(const std::string& label) const {
-    return face && std::ranges::find(face->elements, label, &remote::Element::label) !=
-                       face->elements.end();
 }
 
 void Viewer::press(const std::string& label) {

@@ -2,6 +2,7 @@
 
 #include "estado/EstadoParaWidgets.hpp"
 #include "platform/foundation/DefaultFileManager.hpp"
+#include "support/Patience.hpp"
 #include "support/PrivateSessionBus.hpp"
 #include "support/TemporaryFolder.hpp"
 #include "widgethost/Session.hpp"
@@ -41,18 +42,26 @@ nurva::EstadoParaWidgets music();
 
 /// Lets the main context work until the condition holds. False when it does not in time.
 bool soon(const std::function<bool()>& condition,
-          std::chrono::milliseconds patience = std::chrono::seconds(10));
+          std::chrono::milliseconds patience = support::patience);
 
 /// Lets the main context work for a while.
 void letPass(std::chrono::milliseconds time);
 
+/// The extension as it is, which may take its time.
 widgethost::SessionOptions realExtension();
+
+/// Whether the widget host takes the request of another program to ask for faces again, those of
+/// one kind or all of them. It has done so when this returns.
+bool isReloadedFromOutside(const std::string& kind);
 
 /// The process of the extension; 0 where none is running.
 pid_t extensionProcess();
 
 /// Sends the extension a signal. Throws where none is running.
 void signalExtension(int number);
+
+/// Whether somebody reads this label on a face.
+bool hasElement(const remote::Face& face, const std::string& label);
 
 /// Somebody who looks at a card, and remembers what was shown.
 struct Viewer {
@@ -63,10 +72,11 @@ struct Viewer {
 
     /// The element of this label; throws where there is none.
     const remote::Element& element(const std::string& label) const;
-    bool shows(const std::string& label) const;
+    bool shows(const std::string& label) const { return face && hasElement(*face, label); }
     void press(const std::string& label);
 
     int shown = 0;
+    std::vector<remote::Face> faces;   // all that were shown
     std::optional<remote::Face> face;  // none where the card says that the extension stopped
     std::vector<std::uint32_t> pixels;
     canvas::PixelSize size;

@@ -1,4 +1,5 @@
 #include "platform/foundation/SystemClock.hpp"
+#include "support/Patience.hpp"
 #include "widgethost/MainLoop.hpp"
 
 #include <glib.h>
@@ -10,11 +11,11 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Lets the context work until something is called, or for half a second.
+/// Lets the context work until something is called.
 void work(const int& calls) {
     const int before = calls;
     bool isOver = false;
-    const Source end = after(500ms, [&] { isOver = true; });
+    const Source end = after(support::patience, [&] { isOver = true; });
     while (calls == before && !isOver)
         g_main_context_iteration(nullptr, TRUE);
 }
@@ -32,7 +33,10 @@ TEST(MainLoop, CallsNobodyWhoIsGone) {
     int calls = 0;
     Source source = after(1ms, [&] { ++calls; });
     source.reset();
-    work(calls);
+    int later = 0;
+    const Source end = after(20ms, [&] { ++later; });
+    work(later);
+    EXPECT_EQ(later, 1);
     EXPECT_EQ(calls, 0);
 }
 
@@ -84,12 +88,16 @@ TEST_F(WallClock, CallsAtOnceForAnInstantThatIsOver) {
 }
 
 TEST_F(WallClock, KeepsQuietForOneThatIsFarAwayOrNone) {
-    timer.set(now().addingTimeInterval(0.001));
-    timer.set(foundation::Date{1e300});
-    work(calls);
-    timer.set(now().addingTimeInterval(0.001));
-    timer.set(std::nullopt);
-    work(calls);
+    for (const auto& instant :
+         {std::optional(foundation::Date{1e300}), std::optional<foundation::Date>()}) {
+        timer.set(now().addingTimeInterval(0.01));
+        timer.set(instant);
+        int later = 0;
+        WallClockTimer end([&] { ++later; });
+        end.set(now().addingTimeInterval(0.03));
+        work(later);
+        EXPECT_EQ(later, 1);
+    }
     EXPECT_EQ(calls, 0);
 }
 

@@ -1,0 +1,180 @@
+#include "platform/foundation/SystemClock.hpp"
+#include "platform/widgets/WidgetCenter.hpp"
+#include "processes/Stage.hpp"
+#include "widgethost/MainLoop.hpp"
+
+#include <glib.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+namespace {
+
+using namespace std::chrono_literals;
+using widgethost::Session;
+
+constexpr const char* whatIsOn = "nurva.queEstaPuesto";
+constexpr const char* profiles = "nurva.ponerUnPerfil";
+constexpr const char* room = "nurva.tuCuarto";
+
+TEST(Reloading, WantsToBeAskedAgainAfterAQuarterOfAnHour) {
+    const Stage stage;
+    const foundation::Date before = foundation::SystemClock().now();
+    Session session(realExtension());
+    const Viewer viewer(session, room);
+    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
+    const foundation::Date after = foundation::SystemClock().now();
+    EXPECT_GE(viewer.face->reloadAfter.value(), before.addingTimeInterval(900));
+    EXPECT_LE(viewer.face->reloadAfter.value(), after.addingTimeInterval(900));
+}
+
+TEST(Reloading, AsksAWidgetAgainOnceItsActionIsDone) {
+    Stage stage;
+    stage.publish(music());
+    Session session(realExtension());
+    Viewer viewer(session, whatIsOn);
+    Viewer pressed(session, profiles);
+    ASSERT_TRUE(soon([&] { return viewer.shown == 1 && pressed.shown == 1; }));
+    pressed.display->press({.identifier = "AlternarEncendido"});
+    ASSERT_TRUE(soon([&] { return pressed.shown == 2; }));
+    // Behind whatever else waits in the line.
+    session.reload(profiles);
+    ASSERT_TRUE(soon([&] { return pressed.shown == 3; }));
+    EXPECT_EQ(viewer.shown, 1);
+}
+
+TEST(Reloading, AsksAgainWhenTheSnapshotChanges) {
+    Stage stage;
+    stage.publish(music());
+    Session session(realExtension());
+    const Viewer viewer(session, whatIsOn);
+    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
+    nurva::EstadoParaWidgets other = music();
+    other.perfil = "Cine de noche";
+    stage.publish(other);
+    EXPECT_TRUE(soon([&] { return viewer.shows("Cine de noche"); }));
+    std::filesystem::remove(stage.container() / "estado.json");
+    EXPECT_TRUE(soon([&] { return !viewer.shows("Cine de noche"); }));
+}
+
+TEST(Reloading, FindsAContainerThatComesAfterIt) {
+    Stage stage;
+    Session session(realExtension());
+    const Viewer viewer(session, whatIsOn);
+    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
+    nurva::EstadoParaWidgets estado = music();
+    estado.perfil = "Recién llegado";
+    stage.publish(estado);
+    EXPECT_TRUE(soon([&] { return viewer.shows("Recién llegado"); }));
+    std::filesystem::remove_all(stage.container());
+    ASSERT_TRUE(soon([&] { return !viewer.shows("Recién llegado"); }));
+    stage.publish(estado);
+    EXPECT_TRUE(soon([&] { return viewer.shows("Recién llegado"); }));
+}
+
+TEST(Reloading, AsksAgainWhenTheHostApplicationSaysSo) {
+    Stage stage;
+    stage.publish(music());
+    Session session(realExtension());
+    const Viewer one(session, whatIsOn);
+    const Viewer other(session, room);
+    ASSERT_TRUE(soon([&] { return one.shown == 1 && other.shown == 1; }));
+    ASSERT_TRUE(isReloadedFromOutside(""));
+    EXPECT_TRUE(soon([&] { return one.shown == 2 && other.shown == 2; }));
+    ASSERT_TRUE(isReloadedFromOutside(room));
+    ASSERT_TRUE(soon([&] { return other.shown == 3; }));
+    ASSERT_TRUE(isReloadedFromOutside(whatIsOn));
+    ASSERT_TRUE(soon([&] { return one.shown == 3; }));
+    EXPECT_EQ(other.shown, 3);
+}
+
+TEST(Reloading, AsksAgainForAHostApplicationThatDoesNotWait) {
+    Stage stage;
+    stage.publish(music());
+    Session session(realExtension());
+    const Viewer viewer(session, room);
+    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
+    EXPECT_TRUE(soon([&] {
+        widgets::WidgetCenter::reloadAllTimelines();
+        return viewer.shown > 1;
+    }));
+}
+
+TEST(Reloading, PutsABurstOfReloadsTogetherAndShowsTheLastState) {
+    Stage stage;
+    stage.publish(music());
+    Session session(realExtension());
+    const Viewer viewer(session, whatIsOn);
+    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
+    nurva::EstadoParaWidgets estado = music();
+    const auto start = std::chrono::steady_clock::now();
+    int asked = 0;
+    // It goes on until enough has been shown, so that a reload cannot be put off for ever.
+    EXPECT_TRUE(soon([&] {
+        for (int i = 0; i < 100; ++i, ++asked)
+            session.reload();
+        estado.perfil = "Estado " + std::to_string(asked);
+        stage.publish(estado);
+        return viewer.shown >= 20;
+    }));
+    const auto spans = (std::chrono::steady_clock::now() - start) / 200ms + 1;
+    EXPECT_LE(viewer.shown, 1 + 4 * spans);  // twenty a second, after the first
+    EXPECT_TRUE(soon([&] { return viewer.shows(estado.perfil); }));
+}
+
+TEST(Reloading, OutlivesTheBusAndFindsItAgain) {
+    Stage stage;
+    stage.publish(music());
+    Session session(realExtension());
+    const Viewer viewer(session, room);
+    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
+    stage.bus().end();
+    letPass(50ms);
+    stage.publish(music());
+    ASSERT_TRUE(soon([&] { return viewer.shown == 2; }));
+    stage.bus().start();
+    EXPECT_TRUE(soon([&] {
+        widgets::WidgetCenter::reloadAllTimelines();
+        return viewer.shown > 2;
+    }));
+}
+
+/// How often this thread has been on a processor because it wanted to.
+long turnsOfThisThread() {
+    std::ifstream status("/proc/thread-self/status");
+    for (std::string line; std::getline(status, line);)
+        if (line.starts_with("voluntary_ctxt_switches:"))
+            return std::stol(line.substr(line.find(':') + 1));
+    return -1;
+}
+
+/// Whether nothing wakes this thread for a while, once it has done what there was to do. The end
+/// of the while does, and may be looked at a moment too early.
+bool comesToRest(std::chrono::milliseconds time) {
+    const auto deadline = std::chrono::steady_clock::now() + support::patience;
+    while (std::chrono::steady_clock::now() < deadline) {
+        bool isOver = false;
+        const widgethost::Source end = widgethost::after(time, [&] { isOver = true; });
+        const long before = turnsOfThisThread();
+        int iterations = 0;
+        for (; !isOver; ++iterations)
+            g_main_context_iteration(nullptr, TRUE);
+        if (iterations <= 2 && turnsOfThisThread() - before <= 2)
+            return true;
+    }
+    return false;
+}
+
+TEST(Reloading, WakesNobodyAtRest) {
+    Stage stage;
+    stage.publish(music());
+    Session session(realExtension());
+    const Viewer viewer(session, room);
+    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
+    EXPECT_TRUE(comesToRest(300ms));
+}
+
+}  // namespace
