@@ -1,11 +1,8 @@
 #include "platform/process/NSExtensionMain.hpp"
 
-#include "platform/canvas/FontFolders.hpp"
-#include "platform/foundation/Bundle.hpp"
-#include "platform/foundation/DefaultFileManager.hpp"
-#include "platform/foundation/Entitlements.hpp"
 #include "platform/foundation/FileDescriptor.hpp"
 #include "platform/foundation/Message.hpp"
+#include "platform/process/ExtensionPermissions.hpp"
 #include "platform/process/RequestLoop.hpp"
 #include "platform/remote/Protocol.hpp"
 #include "platform/sandbox/Confinement.hpp"
@@ -26,13 +23,6 @@ namespace {
 
 using foundation::message;
 
-/// More than any face takes; whoever needs more has been given something that is no snapshot.
-#ifdef __SANITIZE_ADDRESS__
-constexpr std::size_t memory = sandbox::Permissions::unlimited;  // the sanitizer's own is shadowed
-#else
-constexpr std::size_t memory = std::size_t{256} << 20;
-#endif
-
 int fail(const std::string& text) {
     std::cerr << "nurva-widgets-extension: " << text << std::endl;
     return 1;
@@ -42,18 +32,6 @@ bool isSocket(int descriptor) {
     int type = 0;
     socklen_t size = sizeof type;
     return ::getsockopt(descriptor, SOL_SOCKET, SO_TYPE, &type, &size) == 0;
-}
-
-sandbox::Permissions permissions() {
-    const auto variables = foundation::EnvironmentVariables::ofProcess();
-    const auto bundle = foundation::Bundle::main(variables);
-    sandbox::Permissions permissions{.readable = canvas::fontFolders(variables), .memory = memory};
-    permissions.readable.push_back(bundle.path());
-    const foundation::DefaultFileManager files(variables);
-    for (const std::string& group : foundation::Entitlements::of(bundle).applicationGroups)
-        if (const auto container = files.containerURL(group))
-            permissions.writable.push_back(*container);
-    return permissions;
 }
 
 }  // namespace
@@ -75,7 +53,7 @@ int NSExtensionMain(int argumentCount, char** arguments, int (*programMain)(int,
         // host had open is the extension's business.
         ::prctl(PR_SET_PDEATHSIG, SIGKILL);
         ::close_range(remote::protocol::socketDescriptor + 1, ~0U, 0);
-        const sandbox::Confinement confinement = sandbox::confine(permissions());
+        const sandbox::Confinement confinement = sandbox::confine(permissionsOfExtension());
         if (requiresSandbox && !confinement.isComplete())
             return fail(message("el núcleo no da el aislamiento entero, y sin él no arranca"));
         if (const int status = programMain(argumentCount, arguments); status != 0)

@@ -1,0 +1,32 @@
+#include "platform/process/ExtensionPermissions.hpp"
+
+#include "platform/canvas/FontFolders.hpp"
+#include "platform/foundation/Bundle.hpp"
+#include "platform/foundation/DefaultFileManager.hpp"
+#include "platform/foundation/Entitlements.hpp"
+
+namespace process {
+
+namespace {
+
+/// More than any face takes; whoever needs more has been given something that is no snapshot.
+#ifdef __SANITIZE_ADDRESS__
+constexpr std::size_t memory = sandbox::Permissions::unlimited;  // the sanitizer's own is shadowed
+#else
+constexpr std::size_t memory = std::size_t{256} << 20;
+#endif
+
+}  // namespace
+
+sandbox::Permissions permissionsOfExtension(const foundation::EnvironmentVariables& variables) {
+    const auto bundle = foundation::Bundle::main(variables);
+    sandbox::Permissions permissions{.readable = canvas::fontFolders(variables), .memory = memory};
+    permissions.readable.push_back(bundle.path());
+    const foundation::DefaultFileManager files(variables);
+    for (const std::string& group : foundation::Entitlements::of(bundle).applicationGroups)
+        if (const auto container = files.containerURL(group))
+            permissions.writable.push_back(*container);
+    return permissions;
+}
+
+}  // namespace process
