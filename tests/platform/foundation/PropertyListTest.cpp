@@ -80,6 +80,19 @@ TEST(PropertyList, ReadsEveryKindFromBinary) {
             << testing::PrintToString(c.objects);
 }
 
+TEST(PropertyList, GivesTheStringsOfAnArrayOfADictionary) {
+    const PropertyList list{Dictionary{{"all", {Array{text("a"), text("b")}}},
+                                       {"mixed", {Array{{true}, text("c"), {Array{text("d")}}}}},
+                                       {"empty", {Array()}},
+                                       {"one", text("e")}}};
+    using Strings = std::vector<std::string>;
+    EXPECT_EQ(list.strings("all"), (Strings{"a", "b"}));
+    EXPECT_EQ(list.strings("mixed"), Strings{"c"});
+    for (const char* key : {"empty", "one", "missing"})
+        EXPECT_EQ(list.strings(key), Strings{}) << key;
+    EXPECT_EQ(text("all").strings("all"), Strings{});
+}
+
 TEST(PropertyList, RefusesMalformedBytes) {
     for (const std::string& bytes : {""s,
                                      "bplist00"s,

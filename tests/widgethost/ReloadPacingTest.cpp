@@ -1,0 +1,63 @@
+#include "support/Patience.hpp"
+#include "widgethost/ReloadPacing.hpp"
+
+#include <glib.h>
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <vector>
+
+namespace widgethost {
+namespace {
+
+using namespace std::chrono_literals;
+
+struct Paced : testing::Test {
+    /// Whether so many have been passed on, as soon as that may be.
+    bool passes(std::size_t count) const {
+        const Instant deadline = Instant::clock::now() + support::patience;
+        while (passed.size() < count && Instant::clock::now() < deadline)
+            g_main_context_iteration(nullptr, FALSE);
+        return passed.size() == count;
+    }
+
+    std::vector<ReloadPacing::Kinds> passed;
+    ReloadPacing pacing{[this](const ReloadPacing::Kinds& kinds) { passed.push_back(kinds); }};
+};
+
+TEST_F(Paced, PassesOnAFewAtOnce) {
+    for (const char* kind : {"a", "", "a", "b"}) {
+        const std::size_t before = passed.size();
+        pacing.ask(kind);
+        ASSERT_EQ(passed.size(), before + 1);
+        EXPECT_EQ(passed.back(), ReloadPacing::Kinds{kind});
+    }
+}
+
+TEST_F(Paced, PutsTogetherWhatComesTooSoon) {
+    // However slow the machine is, one comes too soon at last.
+    constexpr std::size_t far = 1'000'000;
+    std::size_t before = 0;
+    do {
+        before = passed.size();
+        pacing.ask("a");
+    } while (passed.size() > before && before < far);
+    for (const char* kind : {"b", "c", "b"})
+        pacing.ask(kind);
+    ASSERT_EQ(passed.size(), before) << "all of them wait";
+    ASSERT_TRUE(passes(before + 1));
+    EXPECT_EQ(passed.back(), (ReloadPacing::Kinds{"a", "b", "c"}));
+}
+
+TEST_F(Paced, NeverPassesOnMoreThanTwentyInASecond) {
+    const Instant start = Instant::clock::now();
+    while (passed.size() < 20) {
+        pacing.ask("a");
+        g_main_context_iteration(nullptr, FALSE);
+    }
+    // After four at a time two hundred milliseconds pass, on a clock that counts whole ones.
+    EXPECT_GE(Instant::clock::now() - start, 4 * 199ms);
+}
+
+}  // namespace
+}  // namespace widgethost
