@@ -55,6 +55,8 @@ void speakUsersLanguage(CLI::App& app) {
 int run(int argumentCount, const char* const* arguments) {
     CLI::App app(message("Los widgets de Nurva: dibújalos, pruébalos, revisa su estado"), "nurva");
     speakUsersLanguage(app);
+    app.set_version_flag("--version", "NurvaWidgets " NURVA_VERSION, message("Dice qué versión es"))
+        ->group(message("Opciones"));
     app.require_subcommand(1);
     addRender(app);
     addTimeline(app);

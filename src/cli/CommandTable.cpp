@@ -38,13 +38,13 @@ bool namesFile(std::string_view name) {
     return std::ranges::find(files, name) != files.end();
 }
 
-/// What stands for the option's value, without the choices that CLI11 adds.
-std::string typeName(const CLI::Option& option, bool isFile) {
-    const std::string name = option.get_type_name();
-    return isFile ? message("ARCHIVO") : name.substr(0, name.find(':'));
+/// What stands for the option's value, as in the help but without the choices that CLI11 adds.
+std::string valueName(const CLI::Option& option, const CLI::FormatterBase& help, bool isFile) {
+    const std::string type = option.get_type_name();
+    return isFile ? message("ARCHIVO") : help.get_label(type.substr(0, type.find(':')));
 }
 
-ArgumentRow row(const CLI::Option& option) {
+ArgumentRow row(const CLI::Option& option, const CLI::FormatterBase& help) {
     const std::string name = option.get_single_name();
     ArgumentRow row{.description = option.get_description(),
                     .choices = choices(name),
@@ -56,7 +56,7 @@ ArgumentRow row(const CLI::Option& option) {
     for (const std::string& word : option.get_lnames())
         row.names.push_back("--" + word);
     if (option.get_items_expected_max() > 0)
-        row.value = option.get_positional() ? name : typeName(option, row.isFile);
+        row.value = option.get_positional() ? name : valueName(option, help, row.isFile);
     return row;
 }
 
@@ -71,7 +71,7 @@ std::vector<CommandRow> commandTable(const CLI::App& app) {
                               .description = command->get_description()};
         for (const CLI::Option* option : command->get_options())
             (option->get_positional() ? commandRow.arguments : commandRow.options)
-                .push_back(row(*option));
+                .push_back(row(*option, *app.get_formatter()));
         table.push_back(std::move(commandRow));
     }
     return table;

@@ -41,12 +41,11 @@ bool takesFiles(const CommandRow& command) {
 }
 
 std::string bashValues(const CommandRow& command, const ArgumentRow& option) {
-    const std::string action =
-        option.isFile ? "compgen -f" : "compgen -W '" + joined(option.choices) + "'";
+    const std::string action = option.isFile ? "-f" : "-W '" + joined(option.choices) + "'";
     std::string lines;
     for (const std::string& name : option.names)
-        lines += "        '" + command.name + " " + name + "') COMPREPLY=($(" + action +
-                 " -- \"$word\")); return ;;\n";
+        lines +=
+            "        '" + command.name + " " + name + "') _nurva_offer " + action + "; return ;;\n";
     return lines;
 }
 
@@ -82,13 +81,16 @@ std::string bashCompletions(const std::vector<CommandRow>& table) {
         words += "        " + command.name + ") words='" + all + "'" +
                  (takesFiles(command) ? " files=-f" : "") + " ;;\n";
     }
-    return "_nurva() {\n"
-           "    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD-1]}\n"
-           "    local command=${COMP_WORDS[1]} words= files=\n"
+    // A line an offer, since the names of files may hold spaces.
+    return "_nurva_offer() {\n"
+           "    mapfile -t COMPREPLY < <(compgen \"$@\" -- \"${COMP_WORDS[COMP_CWORD]}\")\n"
+           "}\n"
+           "_nurva() {\n"
+           "    local command=${COMP_WORDS[1]} before=${COMP_WORDS[COMP_CWORD-1]} words= files=\n"
            "    if [ \"$COMP_CWORD\" -eq 1 ]; then\n"
-           "        COMPREPLY=($(compgen -W '" +
+           "        _nurva_offer -W '" +
            names +
-           "' -- \"$word\"))\n"
+           "'\n"
            "        return\n"
            "    fi\n"
            "    case \"$command $before\" in\n" +
@@ -97,7 +99,7 @@ std::string bashCompletions(const std::vector<CommandRow>& table) {
            "    case \"$command\" in\n" +
            words +
            "    esac\n"
-           "    COMPREPLY=($(compgen $files -W \"$words\" -- \"$word\"))\n"
+           "    _nurva_offer $files -W \"$words\"\n"
            "}\n"
            "complete -o filenames -F _nurva nurva\n";
 }

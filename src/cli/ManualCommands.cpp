@@ -25,7 +25,7 @@ std::string roff(std::string_view text) {
 std::string usage(const CommandRow& command) {
     std::string line = "nurva " + command.name;
     for (const ArgumentRow& argument : command.arguments) {
-        const std::string value = argument.value + (argument.isRepeated ? "…" : "");
+        const std::string value = argument.value + (argument.isRepeated ? " ..." : "");
         line += argument.isRequired ? " " + value : " [" + value + "]";
     }
     return line;

@@ -10,7 +10,8 @@ namespace {
 std::vector<std::string> offered(const std::string& words) {
     const Outcome outcome = support::run(
         "LANG=en_US.UTF-8 " NURVA_PROGRAM
-        " completions bash >script && bash -c 'touch here.json; . ./script; COMP_WORDS=(" +
+        " completions bash >script && bash -c 'touch here.json \"there it is.json\"; . ./script; "
+        "COMP_WORDS=(" +
         words +
         "); COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); _nurva; printf \"%s\\n\" \"${COMPREPLY[@]}\"'");
     EXPECT_EQ(outcome.errors, "");
@@ -36,6 +37,7 @@ TEST(Completions, OfferTheValuesOfAnOption) {
     EXPECT_EQ(offered("nurva host --scene s"), (Words{"solo-mirar", "sin-medir"}));
     EXPECT_EQ(offered("nurva render --state h"), Words{"here.json"});
     EXPECT_EQ(offered("nurva check h"), Words{"here.json"});
+    EXPECT_EQ(offered("nurva check t"), Words{"there it is.json"});
 }
 
 TEST_F(CommandLine, SpeaksToEachShellInTheUsersLanguage) {
@@ -55,7 +57,8 @@ TEST_F(CommandLine, WritesItsCommandsForTheManual) {
     EXPECT_EQ(outcome.status, 0);
     EXPECT_NE(outcome.output.find(".SS nurva render kind\n"), std::string::npos);
     EXPECT_NE(outcome.output.find("\\fB\\-\\-format\\fR \\fITEXT\\fR\n"), std::string::npos);
-    EXPECT_NE(outcome.output.find(".SS nurva check files…\n"), std::string::npos);
+    EXPECT_NE(outcome.output.find(".SS nurva check files ...\n"), std::string::npos);
+    EXPECT_NE(outcome.output.find("\\fB\\-\\-now\\fR \\fINUMBER\\fR\n"), std::string::npos);
     EXPECT_EQ(nurva("--help").output.find("manual"), std::string::npos);
 }
 
