@@ -38,4 +38,4 @@ install(FILES
     ${PROJECT_BINARY_DIR}/NurvaWidgetsConfigVersion.cmake
     DESTINATION ${package} COMPONENT development)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/schema
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/nurva-widgets COMPONENT development)
+    DESTINATION share/nurva-widgets COMPONENT development)

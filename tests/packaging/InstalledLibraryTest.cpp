@@ -1,71 +1,27 @@
 #include "estado/EstadoParaWidgets.hpp"
+#include "packaging/Installed.hpp"
 #include "platform/foundation/FileError.hpp"
 #include "platform/foundation/ReadFile.hpp"
 #include "platform/foundation/json/JSONDecoder.hpp"
 #include "support/Patience.hpp"
 #include "support/PrivateSessionBus.hpp"
-#include "support/Program.hpp"
-
-#include <gtest/gtest.h>
 
 #include <chrono>
 #include <optional>
 #include <thread>
 
+namespace packaging {
 namespace {
 
 using namespace std::chrono_literals;
 using support::Outcome;
-
-/// NurvaWidgets installed into a folder that knows nothing of the one it was built in, and a user
-/// who comes to it for the first time.
-struct Installed : testing::Test {
-    static void SetUpTestSuite() {
-        prefix.emplace();
-        const Outcome installing = support::run(
-            "cmake --install '" NURVA_BUILD_FOLDER "' --prefix '" + prefix->path().string() + "'");
-        ASSERT_EQ(installing.status, 0) << installing.errors;
-    }
-    static void TearDownTestSuite() { prefix.reset(); }
-
-    static std::string at(const std::string& name) { return (prefix->path() / name).string(); }
-
-    /// A line of shell in a session of the user's own.
-    std::string inSession(const std::string& line) const {
-        return "env -u LANGUAGE -u LC_ALL -u DISPLAY -u WAYLAND_DISPLAY -u NURVA_BUNDLE "
-               "LANG=es_ES.UTF-8 "
-               "XDG_DATA_HOME='" +
-               home.path().string() + "' " + line;
-    }
-    bool hasFound(const Outcome& outcome, const std::string& text) const {
-        return outcome.output.find("✓ " + text) != std::string::npos;
-    }
-
-    static inline std::optional<support::TemporaryFolder> prefix;
-    const support::TemporaryFolder home;
-};
-
-TEST_F(Installed, ProgramsFindOneAnotherAndTheirBundle) {
-    const Outcome doctor =
-        support::run(inSession("dbus-run-session -- '" + at("bin/nurva") + "' doctor"));
-    EXPECT_TRUE(hasFound(doctor, "paquete: " + at("share/nurva-widgets/NurvaWidgets.appex")))
-        << doctor.output;
-    EXPECT_TRUE(hasFound(
-        doctor,
-        "extensión: " + at("libexec/nurva-widgets/nurva-widgets-extension") + ", con 4 widgets"))
-        << doctor.output;
-    const Outcome desktop = support::run(inSession("'" + at("bin/nurva") + "' desktop"));
-    EXPECT_EQ(desktop.status, 1);
-    EXPECT_NE(desktop.errors.find("no hay pantalla"), std::string::npos) << desktop.errors;
-}
 
 /// The example as somebody elsewhere would build it: from a copy, with nothing but the prefix.
 struct InstalledLibrary : Installed {
     void build() const {
         const Outcome building = support::run(
             "cp -r '" NURVA_EXAMPLES_FOLDER "/host' source && cmake -S source -B '" +
-            work.path().string() + "' -G '" NURVA_GENERATOR "' -DCMAKE_PREFIX_PATH='" +
-            prefix->path().string() +
+            work.path().string() + "' -G '" NURVA_GENERATOR "' -DCMAKE_PREFIX_PATH='" + at("") +
             "' -DCMAKE_CXX_COMPILER='" NURVA_COMPILER "' -DCMAKE_CXX_FLAGS='" NURVA_COMPILER_FLAGS
             " -Wall -Wextra -Werror' && cmake --build '" +
             work.path().string() + "'");
@@ -113,3 +69,4 @@ TEST_F(InstalledLibrary, ServesAHostApplicationThatDoesWhatTheWidgetsAsk) {
 }
 
 }  // namespace
+}  // namespace packaging
