@@ -5,7 +5,11 @@
 
 #include <gmock/gmock.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
+#include <csignal>
+#include <cstdlib>
 #include <iterator>
 
 namespace widgethost {
@@ -89,6 +93,28 @@ TEST_F(SavedPlacement, ThatCannotBeWrittenIsReported) {
     folder.write("settings", "a file where a folder should be");
     file.save(sample);
     EXPECT_THAT(reports, testing::SizeIs(1));
+}
+
+TEST_F(SavedPlacement, IsWholeAfterAProcessWasKilledWhileSavingAndNothingStaysBehind) {
+    file.save(sample);
+    for (int turn = 0; turn < (std::getenv("NURVA_LONG") ? 1000 : 20); ++turn) {
+        const pid_t child = ::fork();
+        while (child == 0) {
+            file.save(Placement{});
+            file.save(sample);
+        }
+        ASSERT_GT(child, 0);
+        ::usleep(static_cast<useconds_t>(500 + turn % 100 * 97));
+        ::kill(child, SIGKILL);
+        ASSERT_EQ(::waitpid(child, nullptr, 0), child);
+        const auto placement = file.load();
+        EXPECT_TRUE(placement == sample || placement == Placement{});
+        file.save(sample);
+        EXPECT_EQ(file.load(), sample);
+        const std::filesystem::directory_iterator entries(path.parent_path());
+        EXPECT_EQ(std::distance(begin(entries), end(entries)), 1);
+    }
+    EXPECT_THAT(reports, testing::IsEmpty());
 }
 
 TEST(PlacementFile, LiesWithTheUsersSettings) {

@@ -65,7 +65,7 @@ bool ReplacementFile::open(mode_t mode) {
     std::uint64_t number = 0;
     if (calls_.getrandom(&number, sizeof number) != sizeof number)
         fail(errno);
-    const std::string name = (target_.parent_path() / nameOf(number)).string();
+    std::string name = (target_.parent_path() / nameOf(number)).string();
     FileDescriptor file(calls_.open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
     if (!file && errno != EEXIST && errno != EINTR)
         fail(errno);
@@ -75,7 +75,7 @@ bool ReplacementFile::open(mode_t mode) {
         calls_.unlink(name.c_str());
         return false;
     }
-    name_ = name;
+    name_ = std::move(name);
     file_ = std::move(file);
     return true;
 }
