@@ -1,17 +1,14 @@
 #include "estado/EstadoParaWidgets.hpp"
+#include "estado/IndependentReader.hpp"
 #include "platform/foundation/json/JSONDecoder.hpp"
 #include "platform/foundation/json/JSONEncoder.hpp"
 
-#include <nlohmann/json.hpp>
-
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <optional>
 #include <string_view>
 
-/// Decodes any bytes as a snapshot, in both ways that there are, and compares with another reader.
 namespace {
 
 using nurva::EstadoParaWidgets;
@@ -36,32 +33,9 @@ bool isJSON(std::string_view text) {
     return reader.isAtEnd(reader.skipValue(reader.begin()));
 }
 
-/// The other reader takes a NUL for the end, goes as deep as the stack, and gives up on numbers
-/// beyond a double: then it has no say.
-std::optional<bool> secondOpinion(std::string_view text) {
-    if (text.find('\0') != std::string_view::npos) {
-        return std::nullopt;
-    }
-    int depth = 0;
-    int deepest = 0;
-    for (const char character : text) {
-        depth += (character == '[' || character == '{') - (character == ']' || character == '}');
-        deepest = std::max(deepest, depth);
-    }
-    if (deepest > foundation::deepestJSONNesting) {
-        return std::nullopt;
-    }
-    try {
-        return !nlohmann::json::parse(text).is_discarded();
-    } catch (const nlohmann::json::parse_error&) {
-        return false;
-    } catch (const nlohmann::json::out_of_range&) {
-        return std::nullopt;
-    }
-}
-
 }  // namespace
 
+/// Decodes any bytes as a snapshot, in both ways that there are, and compares with another reader.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view text(reinterpret_cast<const char*>(data), size);
     const foundation::JSONDecoder decoder;
@@ -69,10 +43,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto byParts =
         decoded([&] { return foundation::decodeByParts<EstadoParaWidgets>(text); });
     require(estado.has_value() == byParts.has_value());
-    require(secondOpinion(text).value_or(isJSON(text)) == isJSON(text));
+    const IndependentVerdict theirs = independentVerdict(text);
+    if (theirs.hasOpinion) {
+        require(theirs.isJSON == isJSON(text));
+        require(theirs.estado.has_value() == estado.has_value());
+    }
     if (estado) {
         require(isJSON(text));
-        require(*estado == *byParts);
+        require(exactlyEqual(*estado, *byParts));
+        require(!theirs.hasOpinion || exactlyEqual(*estado, *theirs.estado));
         require(decoder.decode<EstadoParaWidgets>(foundation::JSONEncoder{}.encode(*estado)) ==
                 *estado);
     }
