@@ -104,7 +104,9 @@ TEST(Killed, TheExtensionIsThereAgainForTheNextPress) {
 TEST(Killed, TheExtensionIsThereAgainAtAnyMoment) {
     VolumeUser user;
     const Reader requests;
-    for (int turn = 0; turn < times(20, 1000); ++turn) {
+    const int kills = times(20, 1000);
+    RecordProperty("kills", kills);
+    for (int turn = 0; turn < kills; ++turn) {
         user.setNext();
         letPassUpTo(50ms);
         user.killExtension();
@@ -117,7 +119,9 @@ TEST(Killed, TheExtensionIsThereAgainAtAnyMoment) {
 TEST(Killed, TheWidgetHostKnowsItsPlacesAgainAndLeavesNothingRunning) {
     UserSession session;
     session.container.publish(scene("musica"));
-    for (int turn = 0; turn < times(3, 100); ++turn) {
+    const int kills = times(3, 100);
+    RecordProperty("kills", kills);
+    for (int turn = 0; turn < kills; ++turn) {
         WidgetHost host;
         ASSERT_TRUE(soon([&] { return session.screen.window(room.name).has_value(); }));
         ASSERT_TRUE(soon([&] { return host.extension() != 0; }));

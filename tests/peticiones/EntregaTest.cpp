@@ -79,6 +79,7 @@ TEST_F(Entrega, ManyWritersAndReadersSeeWholeRequestsOnly) {
     done = true;
     readers.clear();
 
+    RecordProperty("requests", 8 * turns);
     EXPECT_GT(reads, 0);
     EXPECT_EQ(center.posts, 8 * turns + 1);
     EXPECT_EQ(std::get<Peticion::Volumen>(standing().caso).nivel, turns - 1)

@@ -97,7 +97,9 @@ TEST_F(SavedPlacement, ThatCannotBeWrittenIsReported) {
 
 TEST_F(SavedPlacement, IsWholeAfterAProcessWasKilledWhileSavingAndNothingStaysBehind) {
     file.save(sample);
-    for (int turn = 0; turn < (std::getenv("NURVA_LONG") ? 1000 : 20); ++turn) {
+    const int kills = std::getenv("NURVA_LONG") ? 1000 : 20;
+    RecordProperty("kills", kills);
+    for (int turn = 0; turn < kills; ++turn) {
         const pid_t child = ::fork();
         while (child == 0) {
             file.save(Placement{});
