@@ -34,8 +34,6 @@ class Anfitrion {
     /// Seconds until `seguir` has something to do.
     double segundosHastaSeguir() const;
 
-    const nurva::EstadoParaWidgets& estado() const { return estado_; }
-
   private:
     void publicar();
 

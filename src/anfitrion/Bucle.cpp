@@ -25,8 +25,8 @@ foundation::FileDescriptor avisoDeFin() {
     sigemptyset(&senales);
     sigaddset(&senales, SIGINT);
     sigaddset(&senales, SIGTERM);
-    if (::pthread_sigmask(SIG_BLOCK, &senales, nullptr) != 0)
-        throw std::system_error(errno, std::generic_category(), "pthread_sigmask");
+    if (const int falla = ::pthread_sigmask(SIG_BLOCK, &senales, nullptr); falla != 0)
+        throw std::system_error(falla, std::generic_category(), "pthread_sigmask");
     foundation::FileDescriptor descriptor(::signalfd(-1, &senales, SFD_CLOEXEC));
     if (!descriptor)
         throw std::system_error(errno, std::generic_category(), "signalfd");

@@ -68,6 +68,27 @@ TEST_F(AnfitrionTest, SaysWhyItRefuses) {
     EXPECT_EQ(publicado().cuando, support::noon);
 }
 
+TEST_F(AnfitrionTest, HasAReasonForEveryRefusal) {
+    Anfitrion anfitrion = abrir();
+    for (const Peticion& peticion :
+         {Peticion::silenciar("nadie", true), Peticion::ponerPerfil("ninguno"),
+          Peticion::volumen("org.ejemplo.navegador", 1.5)}) {
+        pedir(peticion, entorno);
+        anfitrion.atenderPeticion();
+    }
+    Escena soloMirar = escenas().front();
+    soloMirar.inicial.dejaCambiar = false;
+    Anfitrion cerrado = abrir(soloMirar);
+    pedir(Peticion::alternarEncendido(), entorno);
+    cerrado.atenderPeticion();
+    EXPECT_EQ(avisos, (std::vector<std::string>{
+                          "rechazada: no hay ninguna app con ese id: %@",
+                          "rechazada: no hay ningún perfil con ese id: %@",
+                          "rechazada: el nivel va de 0 a 1: %@",
+                          "rechazada: los widgets no pueden cambiar nada: %@",
+                      }));
+}
+
 TEST_F(AnfitrionTest, NeverLetsItsSnapshotGrowOld) {
     Escena quieta = escenas().front();
     quieta.pasos.clear();
