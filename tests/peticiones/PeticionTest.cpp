@@ -61,6 +61,11 @@ TEST(Peticion, IsAnObjectOfOneMemberNamedAfterTheCase) {
     }
 }
 
+TEST(Peticion, MutesNothingAndPlaysNothingUnlessItSaysSo) {
+    EXPECT_EQ(Peticion{Peticion::Silenciar{.app = "a"}}, Peticion::silenciar("a", false));
+    EXPECT_EQ(Peticion{Peticion::Volumen{.app = "a"}}, Peticion::volumen("a", 0));
+}
+
 TEST(Peticion, CarriesEveryLevelUnchanged) {
     for (int step = -200; step <= 1700; ++step) {
         const double nivel = step / 1000.0 + 1e-17;

@@ -2,6 +2,7 @@
 #include "platform/views/Probe.hpp"
 #include "platform/views/modifiers/Frame.hpp"
 #include "platform/views/stacks/Stacks.hpp"
+#include "platform/views/text/Text.hpp"
 #include "platform/views/view/ViewList.hpp"
 
 #include <gtest/gtest.h>
@@ -113,6 +114,17 @@ const FlexibleCase flexibleCases[] = {
     {{}, {}, thirty, {}, 30, 0, 30},
     {{}, {}, all, 7, 7, 0, 7},
 };
+
+TEST(FixedFrame, ATextThatBreaksOnlyInItGivesWayToWhatIsLessFlexible) {
+    Frames frames;
+    const Font font{.size = 10};
+    const double line = font.lineHeight();
+    const View column = VStack{.spacing = 0}({
+        Text("hola mundo adios").font(font).frame({.width = 30}),
+        Probe{.width = Range::exactly(5), .height = {0, 5, 10}, .drawn = &frames},
+    });
+    EXPECT_EQ(sizeOf(column, {200, 3 * line}).height, 2 * line + 10);
+}
 
 TEST(FlexibleFrame, TakesWhatItIsOfferedWithinItsBounds) {
     for (const FlexibleCase& c : flexibleCases) {
