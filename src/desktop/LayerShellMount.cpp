@@ -16,6 +16,9 @@ class LayerShellMount : public Mount {
   public:
     void prepare(GtkWindow* window) override {
         gtk_window_set_decorated(window, FALSE);
+        // Surfaces are closed with their monitor, which is no wish of the user's to be without
+        // them.
+        connect<gboolean()>(window, "close-request", [] { return TRUE; });
         gtk_layer_init_for_window(window);
         gtk_layer_set_namespace(window, "nurva-widget");
         gtk_layer_set_layer(window, GTK_LAYER_SHELL_LAYER_BOTTOM);
