@@ -46,12 +46,13 @@ CardWindow::~CardWindow() {
 /// Leaves of the window only the card, which can be carried about.
 void CardWindow::standFree() {
     gtk_widget_add_css_class(GTK_WIDGET(window_), "nurva-card-window");
-    drag_.emplace(card_, mount_,
-                  CardDrag::Actions{
-                      .place = [this] { return place_; },
-                      .carry = [this](views::Point to) { mount_.move(window_, monitor_, to); },
-                      .drop = requests_.drop,
-                  });
+    drag_.emplace(
+        card_, mount_,
+        CardDrag::Actions{
+            .place = [this] { return place_; },
+            .carry = [this](views::Point to) { mount_.move(window_, monitor_.get(), to); },
+            .drop = requests_.drop,
+        });
 }
 
 void CardWindow::listen() {
@@ -139,7 +140,7 @@ void CardWindow::openMenu(std::optional<views::Point> at) {
 }
 
 void CardWindow::stand(GdkMonitor* monitor, views::Point place) {
-    monitor_ = monitor;
+    monitor_ = kept(monitor);
     place_ = place;
     mount_.move(window_, monitor, place);
     gtk_widget_show(GTK_WIDGET(window_));

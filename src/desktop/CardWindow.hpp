@@ -65,7 +65,7 @@ class CardWindow {
     double unitsPerPoint_;
     double scale_;
     views::Point place_;
-    GdkMonitor* monitor_ = nullptr;
+    Reference<GdkMonitor> monitor_;
     std::unique_ptr<widgethost::Display> display_;
     Card card_;
     CardMenu menu_;
