@@ -23,12 +23,7 @@ Desk::Desk(Surroundings surroundings,
       mount_(mount),
       file_(std::move(file)),
       unitsPerPoint_(unitsPerPoint(surroundings_.display, surroundings_.scale)),
-      monitorsChange_(
-          gdk_display_get_monitors(surroundings_.display),
-          connect<void(unsigned, unsigned, unsigned)>(
-              gdk_display_get_monitors(surroundings_.display),
-              "items-changed",
-              [this](unsigned, unsigned, unsigned) { later_.run([this] { arrange(); }); })),
+      monitors_(surroundings_.display, mount_, [this] { later_.run([this] { arrange(); }); }),
       resolutionChanges_(
           gtk_settings_get_for_display(surroundings_.display),
           connect<void(GParamSpec*)>(gtk_settings_get_for_display(surroundings_.display),

@@ -4,6 +4,7 @@
 #include "desktop/Connect.hpp"
 #include "desktop/Gallery.hpp"
 #include "desktop/Later.hpp"
+#include "desktop/MonitorWatch.hpp"
 #include "desktop/Mount.hpp"
 #include "desktop/Screens.hpp"
 #include "desktop/WidgetSource.hpp"
@@ -79,7 +80,7 @@ class Desk {
     widgethost::Placement placement_;
     std::vector<std::unique_ptr<CardWindow>> cards_;  // one for each widget of the placement
     std::unique_ptr<Gallery> gallery_;
-    Connected monitorsChange_;
+    MonitorWatch monitors_;
     Connected resolutionChanges_;
     unsigned patience_ = 0;  // the timer
     Later later_;

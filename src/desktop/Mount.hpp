@@ -1,9 +1,11 @@
 #pragma once
 
+#include "desktop/Connect.hpp"
 #include "platform/views/geometry/Geometry.hpp"
 
 #include <gtk/gtk.h>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -29,6 +31,9 @@ class Mount {
 
     /// The part of a monitor that panels leave.
     virtual views::Rect area(GdkMonitor* monitor) const;
+
+    /// Tells of changes of these parts, for as long as what it returns lives.
+    virtual Connected watchAreas(std::function<void()> /*changed*/) const { return {}; }
 
     /// The first of the monitors.
     virtual GdkMonitor* primaryMonitor() const { return nullptr; }

@@ -1,13 +1,13 @@
 #include "desktop/X11Mount.hpp"
 
 #include "desktop/CardOutline.hpp"
-#include "desktop/Connect.hpp"
 #include "desktop/X11Window.hpp"
 
 #include <gdk/x11/gdkx.h>
 
 #include <cmath>
 #include <memory>
+#include <utility>
 
 namespace desktop {
 
@@ -70,6 +70,25 @@ views::Rect X11Mount::area(GdkMonitor* monitor) const {
     gdk_x11_monitor_get_workarea(monitor, &area);
     return {static_cast<double>(area.x), static_cast<double>(area.y),
             static_cast<double>(area.width), static_cast<double>(area.height)};
+}
+
+/// The toolkit reads the property anew whenever it is asked, but tells nobody that it has changed.
+Connected X11Mount::watchAreas(std::function<void()> changed) const {
+    Display* display = gdk_x11_display_get_xdisplay(display_);
+    const Window root = gdk_x11_display_get_xrootwindow(display_);
+    XWindowAttributes attributes;
+    XGetWindowAttributes(display, root, &attributes);
+    XSelectInput(display, root, attributes.your_event_mask | PropertyChangeMask);
+    const Atom areas = gdk_x11_get_xatom_by_name_for_display(display_, "_NET_WORKAREA");
+    return {display_,
+            connect<gboolean(gpointer)>(
+                display_, "xevent", [root, areas, tell = std::move(changed)](gpointer event) {
+                    const XPropertyEvent& property = static_cast<XEvent*>(event)->xproperty;
+                    if (property.type == PropertyNotify && property.window == root &&
+                        property.atom == areas)
+                        tell();
+                    return FALSE;
+                })};
 }
 
 GdkMonitor* X11Mount::primaryMonitor() const {
