@@ -48,7 +48,10 @@ std::string title(Display* display, Window window) {
 
 }  // namespace
 
-Screen::Screen(canvas::PixelSize size) : size_(size), screen_(size.width, size.height) {
+Screen::Screen(canvas::PixelSize size)
+    : Screen(size, support::serverInMemory(size.width, size.height)) {}
+
+Screen::Screen(canvas::PixelSize size, const std::string& server) : size_(size), screen_(server) {
     XSetErrorHandler(ignore);
     display_.reset(XOpenDisplay(nullptr));
     if (!display_)

@@ -18,6 +18,8 @@ namespace journeys {
 class Screen {
   public:
     explicit Screen(canvas::PixelSize size = {1280, 800});
+    /// The screen of a server with this command line.
+    Screen(canvas::PixelSize size, const std::string& server);
     ~Screen();
 
     /// The server goes away under everybody's feet.

@@ -16,7 +16,9 @@ namespace support {
 /// now on.
 class ManagedScreen {
   public:
-    ManagedScreen(int width, int height) : server_(width, height) {
+    ManagedScreen(int width, int height) : ManagedScreen(serverInMemory(width, height)) {}
+    /// The screen of a server with this command line.
+    explicit ManagedScreen(const std::string& server) : server_(server) {
         ::setenv("DISPLAY", server_.display().c_str(), 1);
         // Nothing of the user's own: no keys, no menus.
         const auto settings = folder_.write(
