@@ -26,6 +26,7 @@ struct Program : testing::Test {
         ::setenv("XDG_CONFIG_HOME", folder.path().c_str(), 1);
         ::setenv("LANGUAGE", "es", 1);
         ::setenv("LC_ALL", "C.UTF-8", 1);
+        EXPECT_TRUE(hasWindows(0)) << "those of another program are still there";
     }
     ~Program() override { ::unsetenv("XDG_CONFIG_HOME"); }
 
