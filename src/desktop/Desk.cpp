@@ -4,6 +4,7 @@
 #include "desktop/Zoom.hpp"
 #include "platform/foundation/Message.hpp"
 #include "widgethost/Arrangement.hpp"
+#include "widgethost/Changes.hpp"
 
 #include <algorithm>
 #include <utility>
@@ -12,7 +13,14 @@ namespace desktop {
 
 using widgethost::Grid;
 using widgethost::PlacedWidget;
-using widgethost::Spot;
+
+namespace {
+
+std::int64_t span(const remote::WidgetDescription& widget) {
+    return Grid::span(widgets::cardSize(widget.families.front()));
+}
+
+}  // namespace
 
 Desk::Desk(Surroundings surroundings,
            WidgetSource& source,
@@ -91,10 +99,9 @@ void Desk::awaitWidgets() {
 
 /// All widgets there are, for a user who has none yet and has not taken them away.
 void Desk::welcome() {
-    std::vector<widgethost::NewWidget> all;
+    const Screens now = screens();
     for (const remote::WidgetDescription& widget : source_.gallery())
-        all.emplace_back(widget.kind, Grid::span(widgets::cardSize(widget.families.front())));
-    placement_.widgets = tidy(all, screens().monitors);
+        widgethost::add(placement_, widget.kind, span(widget), now.monitors);
     for (const PlacedWidget& widget : placement_.widgets)
         putUp(widget);
     isNew_ = false;
@@ -137,18 +144,12 @@ void Desk::add(const std::string& kind) {
                                     [&](const auto& widget) { return widget.kind == kind; });
     if (found == all.end())
         return;
-    const Screens now = screens();
-    const auto span = Grid::span(widgets::cardSize(found->families.front()));
-    const auto spot = boardWithout(nullptr, placement_, now.monitors).first(span);
-    if (!spot) {
+    if (!widgethost::add(placement_, kind, span(*found), screens().monitors)) {
         if (gallery_)
             gallery_->say(foundation::message("Ya no cabe ninguno más: quita antes otro."));
         return;
     }
-    PlacedWidget& widget =
-        placement_.widgets.emplace_back(PlacedWidget{.kind = kind, .span = span});
-    settle(widget, *spot, now.monitors);
-    putUp(widget);
+    putUp(placement_.widgets.back());
     arrange();
     remember();
 }
@@ -166,39 +167,20 @@ void Desk::remove(CardWindow* card) {
 }
 
 void Desk::placeAnew() {
-    std::vector<widgethost::NewWidget> all;
-    for (const PlacedWidget& widget : placement_.widgets)
-        all.emplace_back(widget.kind, widget.span);
-    auto tidied = tidy(all, screens().monitors);
-    // Those for which there is no room stay where they are.
-    std::size_t next = 0;
-    for (PlacedWidget& widget : placement_.widgets)
-        if (next < tidied.size() && tidied[next].kind == widget.kind)
-            widget = tidied[next++];
+    widgethost::tidy(placement_, screens().monitors);
     arrange();
     remember();
 }
 
 void Desk::move(CardWindow* card, widgethost::Direction direction) {
-    const Screens now = screens();
-    const std::size_t index = indexOf(card);
-    PlacedWidget& widget = placement_.widgets[index];
-    const auto from = arranged(placement_, now.monitors)[index];
-    if (!from)
-        return;
-    if (const auto to =
-            boardWithout(&widget, placement_, now.monitors).next(*from, direction, widget.span))
-        settle(widget, *to, now.monitors);
+    widgethost::move(placement_, indexOf(card), direction, screens().monitors);
     arrange();
     remember();
 }
 
 void Desk::drop(CardWindow* card, views::Point corner) {
-    const Screens now = screens();
-    PlacedWidget& widget = placement_.widgets[indexOf(card)];
     const views::Point point{corner.x / unitsPerPoint_, corner.y / unitsPerPoint_};
-    if (const auto to = boardWithout(&widget, placement_, now.monitors).nearest(point, widget.span))
-        settle(widget, *to, now.monitors);
+    widgethost::move(placement_, indexOf(card), point, screens().monitors);
     arrange();
     remember();
 }

@@ -61,33 +61,4 @@ std::vector<std::optional<Spot>> arranged(const Placement& placement,
     return spots;
 }
 
-Board boardWithout(const PlacedWidget* one,
-                   const Placement& placement,
-                   const std::vector<Monitor>& monitors) {
-    Board board(monitors);
-    const auto spots = arranged(placement, monitors);
-    for (std::size_t i = 0; i < spots.size(); ++i)
-        if (spots[i] && &placement.widgets[i] != one)
-            board.take(*spots[i], placement.widgets[i].span);
-    return board;
-}
-
-void settle(PlacedWidget& widget, Spot spot, const std::vector<Monitor>& monitors) {
-    widget.monitor = monitors[spot.monitor].identity;
-    widget.column = spot.cell.column;
-    widget.row = spot.cell.row;
-}
-
-std::vector<PlacedWidget> tidy(const std::vector<NewWidget>& widgets,
-                               const std::vector<Monitor>& monitors) {
-    std::vector<PlacedWidget> placed;
-    Board board(monitors);
-    for (const auto& [kind, span] : widgets)
-        if (const auto spot = board.first(span)) {
-            board.take(*spot, span);
-            settle(placed.emplace_back(PlacedWidget{.kind = kind, .span = span}), *spot, monitors);
-        }
-    return placed;
-}
-
 }  // namespace widgethost

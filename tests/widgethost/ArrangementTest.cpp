@@ -98,25 +98,5 @@ TEST(Arrangement, CellsFarBeyondAnyGridDoNoHarm) {
     EXPECT_EQ(spots[1], (Spot{0, {0, 0}}));
 }
 
-TEST(Arrangement, TheFirstWidgetsStandInATidyBlock) {
-    const auto placed = tidy({{"a", 1}, {"b", 2}, {"c", 1}, {"d", 2}}, {desk(), laptop()});
-    ASSERT_EQ(placed.size(), 4u);
-    EXPECT_EQ(placed[0].cell(), (Cell{7, 0}));
-    EXPECT_EQ(placed[1].cell(), (Cell{7, 1}));
-    EXPECT_EQ(placed[2].cell(), (Cell{8, 0}));
-    EXPECT_EQ(placed[3].cell(), (Cell{7, 2}));
-    for (const PlacedWidget& one : placed)
-        EXPECT_EQ(one.monitor, desk().identity);
-}
-
-TEST(Arrangement, AWidgetOnTheMoveIsNotInItsOwnWay) {
-    Placement placement{.widgets = {widget(desk(), {0, 0}, 2), widget(desk(), {2, 0})}};
-    const Board board = boardWithout(&placement.widgets[0], placement, {desk()});
-    EXPECT_TRUE(board.isFree({0, {0, 0}}, 2));
-    EXPECT_FALSE(board.isFree({0, {2, 0}}, 1));
-    settle(placement.widgets[0], {1, {3, 2}}, {desk(), laptop()});
-    EXPECT_EQ(placement.widgets[0], widget(laptop(), {3, 2}, 2));
-}
-
 }  // namespace
 }  // namespace widgethost
