@@ -63,14 +63,17 @@ TEST_F(SavedPlacement, ThatMakesNoSenseIsKeptAsideWithAMessage) {
     std::vector<std::string> texts{"", "{}", "null", "[1]", "\xff", whole + "}"};
     for (std::size_t length = 1; length < whole.size(); length += 7)
         texts.push_back(whole.substr(0, length));
+    const auto with = [](const std::string& span, const std::string& cell) {
+        return R"({"widgets":[{"kind":"a","span":)" + span +
+               R"(,"monitor":{"connector":"","x":0,"y":0,"width":1,"height":1},)" + cell +
+               R"(}],"windowsExplained":false})";
+    };
     for (const char* span : {"0", "-1", "9", "1e300", "\"1\""})
-        texts.push_back(R"({"widgets":[{"kind":"a","span":)" + std::string(span) +
-                        R"(,"monitor":{"connector":"","x":0,"y":0,"width":1,"height":1},)" +
-                        R"("column":0,"row":0}],"windowsExplained":false})");
-    for (const char* column : {"10001", "-9223372036854775808", "0.5"})
-        texts.push_back(R"({"widgets":[{"kind":"a","span":1,"monitor":{"connector":"","x":0,)"
-                        R"("y":0,"width":1,"height":1},"column":)" +
-                        std::string(column) + R"(,"row":0}],"windowsExplained":false})");
+        texts.push_back(with(span, R"("column":0,"row":0)"));
+    for (const std::string far : {"10001", "-10001", "-9223372036854775808", "0.5"}) {
+        texts.push_back(with("1", R"("column":)" + far + R"(,"row":0)"));
+        texts.push_back(with("1", R"("column":0,"row":)" + far));
+    }
     for (const std::string& text : texts) {
         reports.clear();
         write(text);
