@@ -57,7 +57,7 @@ struct Sender {
         const std::vector<std::uint32_t>& drawn = pictures[++turn % pictures.size()];
         sd_bus_message* made = nullptr;
         check(sd_bus_message_new_method_return(call, &made));
-        const remote::Message reply(made);
+        const foundation::BusMessage reply(made);
         if (sd_bus_message_is_method_call(call, "a.b", "Shared") > 0)
             std::ranges::copy(drawn, pixels.begin());
         else
@@ -101,10 +101,10 @@ struct Process {
     pid_t id;
 };
 
-remote::Message ask(sd_bus& bus, const char* destination, const char* member) {
+foundation::BusMessage ask(sd_bus& bus, const char* destination, const char* member) {
     sd_bus_message* answer = nullptr;
     check(sd_bus_call_method(&bus, destination, "/", "a.b", member, nullptr, &answer, ""));
-    return remote::Message(answer);
+    return foundation::BusMessage(answer);
 }
 
 /// Looks at every pixel; each is that of this turn.
@@ -156,7 +156,7 @@ void inMessage(benchmark::State& state) {
         ::usleep(1000);
     std::uint32_t turn = 0;
     for (auto _ : state) {
-        const remote::Message answer = ask(*bus, "a.b", "Copied");
+        const foundation::BusMessage answer = ask(*bus, "a.b", "Copied");
         const void* bytes = nullptr;
         std::size_t size = 0;
         check(sd_bus_message_read_array(answer.get(), 'y', &bytes, &size));

@@ -46,17 +46,15 @@ void CardDrag::begin(GtkGesture* gesture, double x, double y) {
     gtk_gesture_set_state(gesture, GTK_EVENT_SEQUENCE_CLAIMED);
     gtk_widget_grab_focus(card_.widget());
     start_ = actions_.place();
-    const auto pointer = mount_.pointer();
-    grip_ =
-        pointer ? views::Point{pointer->x - start_.x, pointer->y - start_.y} : views::Point{x, y};
+    // Where the pointer is by now says nothing: it may be far ahead of what is heard of it.
+    grip_ = {x, y};
 }
 
 void CardDrag::update(double dx, double dy) {
-    const views::Point to = destination(dx, dy);
-    if (std::hypot(to.x - start_.x, to.y - start_.y) >= threshold)
+    if (std::hypot(dx, dy) >= threshold)
         isCarrying_ = true;
     if (isCarrying_ && mount_.pointer())
-        actions_.carry(to);
+        actions_.carry(destination(dx, dy));
 }
 
 void CardDrag::end(double dx, double dy) {
