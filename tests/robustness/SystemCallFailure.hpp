@@ -10,7 +10,7 @@ struct Ending {
     std::vector<int> calls;  ///< the numbers of the system calls it made
 };
 
-/// Which system calls of a process fail, and with what.
+/// Which system calls of a process fail, and with what. A futex never does.
 struct SystemCallFailure {
     int turn = 0;  ///< of all the calls it makes, counted from 1; 0 is none
     int error = 0;
