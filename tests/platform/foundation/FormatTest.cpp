@@ -88,6 +88,8 @@ TEST(Format, WhatDoesNotFitTheArgumentsIsRefused) {
         {"%hd", {integer}},
         {"%.f", {decimal}},
         {"%.10f", {decimal}},
+        {"%.:f", {decimal}},
+        {"%./f", {decimal}},
         {"%.1", {decimal}},
         {"%.1lf", {decimal}},
         {"%e", {decimal}},

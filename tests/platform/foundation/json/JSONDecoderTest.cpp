@@ -121,6 +121,23 @@ TEST(JSONDecoder, CountsTheLevelsAroundUnreadValues) {
     EXPECT_EQ(kindAndPlace(text(512)), "dataCorrupted ");
 }
 
+TEST(JSONDecoder, RefusesTextOfAnyDepth) {
+    constexpr std::size_t deep = 1'000'000;
+    EXPECT_EQ(kindAndPlace(std::string(deep, '[')), "dataCorrupted ");
+    std::string objects;
+    for (std::size_t i = 0; i < deep; ++i) {
+        objects += "{\"a\":";
+    }
+    EXPECT_EQ(kindAndPlace(objects), "dataCorrupted ");
+}
+
+TEST(JSONDecoder, MeetsAMalformedNumberBeforeAKeyThatIsMissingLater) {
+    EXPECT_EQ(kindAndPlace(R"({"flag":true,"list":[{"name":"","values":[01]}]})"),
+              "dataCorrupted ");
+    EXPECT_EQ(kindAndPlace(R"({"flag":true,"list":[{"name":"","values":[1]}]})"),
+              "keyNotFound count");
+}
+
 TEST(JSONDecoder, NamesThePlaceOfAMissingKeyAndItsObject) {
     const DecodingError error =
         refusal(R"({"flag":true,"list":[{"name":"a","values":[]},{"name":"b"}]})");
@@ -140,6 +157,22 @@ TEST(JSONDecoder, TellsNullFromAWrongType) {
     EXPECT_EQ(kindAndPlace(R"({"flag":true,"list":[{"name":"","values":[0,null]}]})"),
               "valueNotFound list.0.values.1");
     EXPECT_EQ(kindAndPlace(R"({"flag":true,"note":7})"), "typeMismatch note");
+}
+
+TEST(JSONDecoder, SaysWhatItFoundInstead) {
+    const auto said = [](const std::string& value) {
+        return refusal(R"({"flag":)" + value + "}").debugDescription;
+    };
+    EXPECT_EQ(said("null"), "Expected to decode Bool but found null instead.");
+    EXPECT_EQ(said("7"), "Expected to decode Bool but found number instead.");
+    EXPECT_EQ(said("\"\""), "Expected to decode Bool but found a string instead.");
+    EXPECT_EQ(said("[]"), "Expected to decode Bool but found an array instead.");
+    EXPECT_EQ(said("{}"), "Expected to decode Bool but found a dictionary instead.");
+    EXPECT_EQ(refusal(R"({"flag":true,"note":false})").debugDescription,
+              "Expected to decode String but found bool instead.");
+    EXPECT_EQ(refusal(R"({"flag":true,"list":null})").debugDescription,
+              "Cannot get unkeyed decoding container -- found null value instead");
+    EXPECT_EQ(refusal("{}").debugDescription, "No value associated with key \"flag\".");
 }
 
 TEST(JSONDecoder, SaysWhereMalformedTextIs) {

@@ -131,4 +131,15 @@ TEST(JSONNumber, WholeNumbersAreExactUpToTheirLimits) {
     EXPECT_EQ(number<std::uint32_t>("4294967296"), std::nullopt);
 }
 
+TEST(JSONNumber, AWholeNumberHoldsEveryInteger) {
+    const auto magnitude = [](const std::string& text) {
+        foundation::WholeNumber number{};
+        return foundation::convert(text, number) ? std::optional(number.magnitude) : std::nullopt;
+    };
+    EXPECT_EQ(magnitude("1e19"), 10'000'000'000'000'000'000u);
+    EXPECT_EQ(magnitude("18446744073709551615"), std::numeric_limits<std::uint64_t>::max());
+    EXPECT_EQ(magnitude("18446744073709551616"), std::nullopt);
+    EXPECT_EQ(magnitude("1e20"), std::nullopt);
+}
+
 }  // namespace

@@ -109,7 +109,10 @@ TEST(JSONString, RefusesMalformedUTF8WhereverItStands) {
          {"\x80", "\xBF", "\xC0\x80", "\xC1\xBF", "\xC3", "\xC3\x28", "\xE0\x80\x80",
           "\xE0\x9F\xBF", "\xE2\x82", "\xE2\x28\xA1", "\xED\xA0\x80", "\xED\xBF\xBF",
           "\xF0\x80\x80\x80", "\xF0\x8F\xBF\xBF", "\xF0\x9F\x98", "\xF4\x90\x80\x80",
-          "\xF5\x80\x80\x80", "\xFE", "\xFF"}) {
+          "\xF5\x80\x80\x80", "\xFE", "\xFF",
+          // One below and one above what may follow, in every place.
+          "\xC2\x7F", "\xC2\xC0", "\xE1\x7F\x80", "\xE1\xC0\x80", "\xE1\x80\x7F", "\xE1\x80\xC0",
+          "\xF1\x7F\x80\x80", "\xF1\xC0\x80\x80", "\xF1\x80\x80\x7F", "\xF1\x80\x80\xC0"}) {
         for (std::size_t before = 0; before < 20; ++before) {
             EXPECT_EQ(string(std::string(before, 'x') + bytes), std::nullopt);
             EXPECT_EQ(string(std::string(before, 'x') + bytes + "0123456789"), std::nullopt);

@@ -47,6 +47,14 @@ TEST(TextLayout, KeepsOnOneLineWhatFits) {
     });
 }
 
+TEST(TextLayout, KeepsTheSpaceAtTheEndOfALineThatNeedNotBreak) {
+    expectLines({
+        {"hola ", 50, any, {"hola "}, 25},
+        {"hola ", 25, 1, {"hola "}, 25},
+        {"hola \nti", 50, any, {"hola ", "ti"}, 25},
+    });
+}
+
 TEST(TextLayout, BreaksBetweenWords) {
     expectLines({
         {"hola mundo", 49.5, any, {"hola", "mundo"}, 25},
