@@ -74,12 +74,14 @@ class Mutant:
     after: str
     line: int
     text: str  # the line it stands in
+    again: int  # how many lines before it are the same
     column: int
 
     def name(self):
         """The same as long as its line stays the same."""
         before = " ".join(self.before.split())
-        return f"{self.file} | {self.text} | {self.column}: {before} → {self.after or 'nothing'}"
+        again = f" (again {self.again})" if self.again else ""
+        return f"{self.file} | {self.text}{again} | {self.column}: {before} → {self.after or 'nothing'}"
 
 
 @dataclass(frozen=True)
@@ -148,6 +150,7 @@ class Source:
             after=after,
             line=self.text.count("\n", 0, begin) + 1,
             text=line.strip(),
+            again=[other.strip() for other in self.text[:start].splitlines()].count(line.strip()),
             column=begin - start - indent + 1,
         )
 

@@ -6,11 +6,13 @@ from mutation import results
 
 
 def row(name, known, total):
+    counted = results.count(known, *results.COUNTED)
+    score = f"{results.score(known):.1f} %" if counted else "not tried"
     return (
         f"| {name} | {total} | {len(known)} | {results.count(known, 'does not compile')} "
         f"| {results.count(known, 'same code')} | {results.count(known, 'killed')} "
         f"| {results.count(known, 'timed out')} | {results.count(known, 'survived')} "
-        f"| {results.score(known):.1f} % |"
+        f"| {score} |"
     )
 
 
@@ -36,8 +38,8 @@ def write(known, every):
 
 Written by `tools/mutate --page` on {datetime.date.today()}. The sources are broken in one place at a time:
 an operator, a constant, a condition, a call or a returned value is changed or left out. Then the tests
-of that room run. A mutant counts if it compiles, and to other code than the source itself. Those tried
-are drawn by lot where there are more than were tried.
+of that room run. A mutant counts if it compiles, and to other code than the source itself. Not all have
+been tried: they are drawn by lot, most of them from sources, since a header's takes many times as long.
 
 {table(current, every)}
 
