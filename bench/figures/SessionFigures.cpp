@@ -6,6 +6,7 @@
 //   session_figures growth N    kilobytes by which the extension and this process grow in N
 //   pictures
 
+#include "widgethost/MainLoop.hpp"
 #include "widgethost/Session.hpp"
 
 #include <glib.h>
