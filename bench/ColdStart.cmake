@@ -5,6 +5,7 @@ target_link_libraries(nurva_cold_start_plain PRIVATE
     nurva_views PkgConfig::CAIRO PkgConfig::PANGO)
 
 nurva_bench(cold_start SOURCES ColdStartBenchmark.cpp)
+target_include_directories(nurva_bench_cold_start PRIVATE ${PROJECT_SOURCE_DIR}/tests)
 target_compile_definitions(nurva_bench_cold_start PRIVATE
     ${NURVA_EXAMPLE}
     NURVA_COMMAND="$<TARGET_FILE:nurva>"

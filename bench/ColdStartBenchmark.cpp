@@ -2,12 +2,12 @@
 // command, which reads the snapshot and lays the face out too, against a plain Cairo and Pango
 // program that draws a scene it brings along.
 
+#include "support/TemporaryFolder.hpp"
+
 #include <benchmark/benchmark.h>
 #include <spawn.h>
 #include <sys/wait.h>
-#include <unistd.h>
 
-#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -29,15 +29,14 @@ bool run(std::vector<std::string> command) {
 /// Starts the command again and again; `command` makes it for the file it is to write.
 template <class Command>
 void coldStart(benchmark::State& state, const Command& command) {
-    char file[] = "/tmp/nurva-cold-start-XXXXXX";
-    close(mkstemp(file));
+    const support::TemporaryFolder folder;
+    const std::string file = (folder.path() / "face.png").string();
     for (auto _ : state) {
-        if (!run(command(file))) {
+        if (!run(command(file.c_str()))) {
             state.SkipWithError("the program failed");
             break;
         }
     }
-    unlink(file);
 }
 
 void nurvaRender(benchmark::State& state, const char* kind) {

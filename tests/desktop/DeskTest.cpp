@@ -148,6 +148,17 @@ TEST_F(DeskOnScreen, AWidgetFollowsThePointer) {
     EXPECT_TRUE(standsAt(0, {2, 1}));
 }
 
+TEST_F(DeskOnScreen, AWidgetIsHeldWhereItWasPressedThoughThePointerIsFarAhead) {
+    remember({{"a", {0, 0}}});
+    open();
+    ASSERT_TRUE(standsAt(0, {0, 0}));
+    const views::Point at = grid.origin({0, 0});
+    screen::movePointer(at.x + 50, at.y + 50);
+    screen::holdAndMove(at.x + 50 + 2 * 194, at.y + 50 + 194);
+    screen::releaseButton();
+    EXPECT_TRUE(standsAt(0, {2, 1}));
+}
+
 TEST_F(DeskOnScreen, AWidgetDroppedOnAnotherGoesToTheNearestFreePlace) {
     remember({{"a", {0, 0}}, {"b", {2, 0}}});
     open();

@@ -175,6 +175,12 @@ void holdButton(unsigned button) {
     settle();
 }
 
+void holdAndMove(double x, double y) {
+    XTestFakeButtonEvent(server(), 1, True, 0);
+    XTestFakeMotionEvent(server(), 0, static_cast<int>(x), static_cast<int>(y), 0);
+    settle();
+}
+
 void releaseButton(unsigned button) {
     XTestFakeButtonEvent(server(), button, False, 0);
     settle();

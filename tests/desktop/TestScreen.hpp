@@ -43,6 +43,9 @@ bool isCalled(GtkWidget* widget, const std::string& name);
 
 void movePointer(double x, double y);
 void holdButton(unsigned button = 1);
+
+/// Holds the button and moves on before anybody has heard of it.
+void holdAndMove(double x, double y);
 void releaseButton(unsigned button = 1);
 void click(double x, double y, unsigned button = 1);
 /// A key by its GDK name, with another one held.

@@ -14,7 +14,9 @@ namespace support {
 class TemporaryFolder {
   public:
     TemporaryFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "nurva-test-XXXXXX").string();
+        const std::string unique(6, 'X');  // whose place `mkdtemp` fills
+        std::string name =
+            (std::filesystem::temp_directory_path() / ("nurva-test-" + unique)).string();
         if (!::mkdtemp(name.data()))
             throw std::runtime_error("no temporary folder: " + name);
         path_ = name;
