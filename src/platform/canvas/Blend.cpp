@@ -32,10 +32,11 @@ ChannelBytes repeated(std::uint32_t color) {
     return bytes;
 }
 
-/// The product of two parts of 255.
+/// The product of two parts of 255, rounded. The high half of a product is one instruction of
+/// vectors.
 constexpr std::uint16_t times(std::uint16_t a, std::uint16_t b) {
-    const auto rounded = static_cast<std::uint16_t>(a * b + 128);
-    return static_cast<std::uint16_t>(static_cast<std::uint16_t>(rounded + (rounded >> 8)) >> 8);
+    const std::uint32_t rounded = static_cast<std::uint16_t>(a * b + 128);
+    return static_cast<std::uint16_t>(rounded * 257 >> 16);
 }
 
 /// The coverage of each pixel, once for every channel.
@@ -99,6 +100,22 @@ class Brush {
     std::uint16_t alpha_;
 };
 
+void keepStretch(std::uint32_t* pixels, const std::uint8_t* coverage) {
+    const StretchWords words = stretchAt(coverage);
+    if (words == covered)
+        return;
+    if (words == uncovered) {
+        std::fill_n(pixels, stretch, 0);
+        return;
+    }
+    const ChannelBytes parts = forEachChannel(coverage);
+    ChannelBytes bytes{};
+    std::memcpy(bytes.data(), pixels, stretchBytes);
+    for (std::size_t k = 0; k < stretchBytes; ++k)
+        bytes[k] = static_cast<std::uint8_t>(times(bytes[k], parts[k]));
+    std::memcpy(pixels, bytes.data(), stretchBytes);
+}
+
 }  // namespace
 
 void blendColor(std::uint32_t* pixels,
@@ -128,14 +145,12 @@ void blendPixels(std::uint32_t* pixels,
 }
 
 void keepCovered(std::uint32_t* pixels, const std::uint8_t* coverage, std::size_t count) {
-    for (std::size_t i = 0; i < count; i += stretch) {
-        const std::size_t end = std::min(i + stretch, count);
-        if (i + stretch <= count && stretchAt(coverage + i) == covered)
-            continue;
-        for (std::size_t k = i; k < end; ++k) {
-            if (coverage[k] != 255)
-                pixels[k] = coverage[k] == 0 ? 0 : faded(pixels[k], coverage[k]);
-        }
+    std::size_t i = 0;
+    for (; i + stretch <= count; i += stretch)
+        keepStretch(pixels + i, coverage + i);
+    for (; i < count; ++i) {
+        if (coverage[i] != 255)
+            pixels[i] = faded(pixels[i], coverage[i]);
     }
 }
 

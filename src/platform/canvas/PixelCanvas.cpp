@@ -14,20 +14,27 @@ namespace {
 
 constexpr std::size_t keptStencils = 4 << 20;  // bytes
 
-/// Takes away what lies outside the card. Only the corners can: the mask is full everywhere else.
-void cutCorners(const Canvas& canvas, const Mask& card, double scale) {
-    constexpr double reach = 1.53 * views::cardCornerRadius;  // of a corner along an edge
-    const int zone = static_cast<int>(std::min(std::ceil(reach * scale), 1e6)) + 1;
+/// How many pixels a corner reaches along an edge of the card.
+int cornerZone(double scale) {
+    constexpr double reach = 1.53 * views::cardCornerRadius;
+    return static_cast<int>(std::min(std::ceil(reach * scale), 1e6)) + 1;
+}
+
+/// Takes away what lies outside the card. Only its corners do, so a smaller card with corners of
+/// the same size will do as the mask, which stays in the processor's nearest memory.
+void cutCorners(const Canvas& canvas, const Mask& corners) {
     const PixelRect& area = canvas.area;
     const auto width = static_cast<std::size_t>(area.width);
-    const auto side = static_cast<std::size_t>(std::min(zone, area.width));
-    for (int y = 0; y < area.height; ++y) {
-        if (y >= zone && y < area.height - zone)
-            continue;
-        const std::size_t row = static_cast<std::size_t>(y) * width;
-        const std::size_t right = row + std::max(width - side, side);
-        keepCovered(&canvas.argb[row], &card.coverage[row], side);
-        keepCovered(canvas.argb.data() + right, card.coverage.data() + right, row + width - right);
+    const auto maskWidth = static_cast<std::size_t>(corners.area.width);
+    const std::size_t left = maskWidth / 2;
+    const std::size_t right = maskWidth - left;
+    for (int y = 0; y < corners.area.height; ++y) {
+        const bool isAbove = y < corners.area.height / 2;
+        const int cardY = isAbove ? y : area.height - corners.area.height + y;
+        std::uint32_t* row = canvas.argb.data() + static_cast<std::size_t>(cardY) * width;
+        const std::uint8_t* covered = &corners.coverage[static_cast<std::size_t>(y) * maskWidth];
+        keepCovered(row, covered, left);
+        keepCovered(row + width - right, covered + left, right);
     }
 }
 
@@ -60,7 +67,9 @@ void PixelCanvas::draw(const views::Scene& scene, double scale, std::span<std::u
     for (const Stamp& stamp : stamper.stamps(scene.drawing))
         press(stamp, canvas);
     const views::RoundedRectangle card{.cornerRadius = views::cardCornerRadius};
-    cutCorners(canvas, stamper.filled(card, canvas.area, {}).stencil->mask, scale);
+    const int side = 2 * cornerZone(scale);
+    const PixelRect corners{0, 0, std::min(side, size.width), std::min(side, size.height)};
+    cutCorners(canvas, stamper.filled(card, corners, {}).stencil->mask);
 }
 
 }  // namespace canvas

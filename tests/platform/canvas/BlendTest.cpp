@@ -54,11 +54,25 @@ TEST(Blend, TreatsAPixelAlikeWhereverItStandsInALongRow) {
     }
 }
 
-TEST(Blend, KeepsOnlyWhatIsCovered) {
-    std::array<std::uint32_t, 3> row{0xFF806040, 0xFF806040, 0xFF806040};
-    const std::array<std::uint8_t, 3> coverage{0, 51, 255};
-    keepCovered(row.data(), coverage.data(), 3);
-    EXPECT_EQ(row, (std::array<std::uint32_t, 3>{0, 0x331A130D, 0xFF806040}));
+TEST(Blend, KeepsOfEachPixelAsMuchAsIsCovered) {
+    constexpr std::uint32_t color = 0xFF806040;
+    for (std::size_t count = 0; count <= 40; ++count) {
+        for (const std::uint32_t around : {0u, 255u}) {
+            for (std::size_t edge = 0; edge < count; ++edge) {
+                std::array<std::uint8_t, 40> coverage{};
+                coverage.fill(static_cast<std::uint8_t>(around));
+                coverage[edge] = 51;
+                std::array<std::uint32_t, 40> row{};
+                row.fill(color);
+                keepCovered(row.data(), coverage.data(), count);
+                for (std::size_t i = 0; i < row.size(); ++i) {
+                    const std::uint32_t expected = i < count ? faded(color, coverage[i]) : color;
+                    ASSERT_EQ(row[i], expected)
+                        << count << ' ' << around << ' ' << edge << ' ' << i;
+                }
+            }
+        }
+    }
 }
 
 }  // namespace
