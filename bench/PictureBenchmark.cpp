@@ -16,7 +16,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <array>
 #include <chrono>
 #include <csignal>
 #include <cstdint>
@@ -46,27 +45,25 @@ foundation::SessionBus connected(int socket, bool asServer) {
     return bus;
 }
 
-/// The process that draws: each call gets the next picture, one way or the other.
+/// The process that draws: each call gets the next picture, which is drawn where the other process
+/// sees it, or into memory of its own and put into the answer.
 struct Sender {
-    explicit Sender(const remote::PictureMemory& shared) : pixels(shared.pixels()) {
-        for (std::uint32_t i = 0; i < pictures.size(); ++i)
-            pictures[i].assign(count, i);
-    }
-
     void answer(sd_bus_message* call) {
-        const std::vector<std::uint32_t>& drawn = pictures[++turn % pictures.size()];
         sd_bus_message* made = nullptr;
         check(sd_bus_message_new_method_return(call, &made));
         const foundation::BusMessage reply(made);
-        if (sd_bus_message_is_method_call(call, "a.b", "Shared") > 0)
-            std::ranges::copy(drawn, pixels.begin());
-        else
-            check(sd_bus_message_append_array(made, 'y', drawn.data(), 4 * count));
+        const std::uint32_t color = ++turn % 2;
+        if (sd_bus_message_is_method_call(call, "a.b", "Shared") > 0) {
+            std::ranges::fill(shared, color);
+        } else {
+            std::ranges::fill(own, color);
+            check(sd_bus_message_append_array(made, 'y', own.data(), 4 * count));
+        }
         check(sd_bus_send(sd_bus_message_get_bus(call), made, nullptr));
     }
 
-    std::span<std::uint32_t> pixels;
-    std::array<std::vector<std::uint32_t>, 2> pictures;
+    std::span<std::uint32_t> shared;
+    std::vector<std::uint32_t> own = std::vector<std::uint32_t>(count);
     std::uint32_t turn = 0;
 };
 
@@ -75,8 +72,8 @@ int answer(sd_bus_message* call, void* sender, sd_bus_error*) {
     return 1;
 }
 
-void serve(sd_bus& bus, const remote::PictureMemory& shared) {
-    Sender sender(shared);
+void serve(sd_bus& bus, std::span<std::uint32_t> shared) {
+    Sender sender{.shared = shared};
     check(sd_bus_add_object(&bus, nullptr, "/", answer, &sender));
     while (true)
         if (check(sd_bus_process(&bus, nullptr)) == 0)
@@ -128,7 +125,7 @@ void inSharedMemory(benchmark::State& state) {
     if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0, ends) != 0)
         throw std::runtime_error("no socket");
     const auto shared = remote::PictureMemory::create(count);
-    const Process sender([&] { serve(*connected(ends[1], true), shared); });
+    const Process sender([&] { serve(*connected(ends[1], true), shared.pixels()); });
     ::close(ends[1]);
     const foundation::SessionBus bus = connected(ends[0], false);
     std::uint32_t turn = 0;
@@ -145,11 +142,10 @@ foundation::SessionBus sessionBus() {
 void inMessage(benchmark::State& state) {
     stayOnOneProcessor();
     const support::PrivateSessionBus daemon;
-    const auto unused = remote::PictureMemory::create(count);
     const Process sender([&] {
         const foundation::SessionBus bus = sessionBus();
         check(sd_bus_request_name(bus.get(), "a.b", 0));
-        serve(*bus, unused);
+        serve(*bus, {});
     });
     const foundation::SessionBus bus = sessionBus();
     while (sd_bus_get_name_creds(bus.get(), "a.b", 0, nullptr) < 0)
