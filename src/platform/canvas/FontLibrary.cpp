@@ -6,7 +6,9 @@
 #include "platform/canvas/RecentlyUsed.hpp"
 
 #include <cmath>
+#include <map>
 #include <optional>
+#include <string>
 
 namespace canvas {
 
@@ -31,7 +33,8 @@ std::size_t bytes(const TextLine& line) {
 }  // namespace
 
 struct FontLibrary::Contents {
-    std::optional<FontSource> standIns;
+    // A file each: a font map that gets another one forgets the fonts that it has made.
+    std::map<std::string, FontSource> standIns;
     std::optional<FontSource> system;
     RecentlyUsed<TextLine> lines{keptLines};
 
@@ -41,13 +44,17 @@ struct FontLibrary::Contents {
         return *system;
     }
 
+    const FontSource& standIn(const std::string& file) {
+        auto found = standIns.find(file);
+        if (found == standIns.end())
+            found = standIns.emplace(file, FontSource::only(file)).first;
+        return found->second;
+    }
+
     TextLine set(const DrawableText& text, const views::Font& font, double tracking) {
         const std::optional<std::string> file = standInFile(font.design, font.weight);
         if (file && text.utf8.find(pictureSelector) == std::string::npos) {
-            if (!standIns)
-                standIns = FontSource::standIns();
-            standIns->add(*file);
-            LineSet set = setLine(*standIns, text, font, tracking);
+            LineSet set = setLine(standIn(*file), text, font, tracking);
             if (set.complete)
                 return std::move(set.line);
         }

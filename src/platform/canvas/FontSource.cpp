@@ -37,10 +37,11 @@ FontSource::FontSource(FcConfigHandle configuration)
     pango_cairo_context_set_font_options(context_.get(), unhinted().get());
 }
 
-FontSource FontSource::standIns() {
+FontSource FontSource::only(const std::string& file) {
     FcConfigHandle configuration = made(FcConfigCreate());
-    // A font map makes sure on a thread of its own that the process has a current configuration,
-    // and would read the system's. This one stands in until the map has looked.
+    FcConfigAppFontAddFile(configuration.get(), reinterpret_cast<const FcChar8*>(file.c_str()));
+    // The first font map makes sure on a thread of its own that the process has a current
+    // configuration, and would read the system's. This one stands in until the map has looked.
     FcConfigSetCurrent(configuration.get());
     FontSource source(std::move(configuration));
     PangoFontFamily** families = nullptr;
@@ -54,13 +55,6 @@ FontSource FontSource::standIns() {
 
 FontSource FontSource::system() {
     return FontSource(made(FcInitLoadConfigAndFonts()));
-}
-
-void FontSource::add(const std::string& file) {
-    if (!files_.insert(file).second)
-        return;
-    FcConfigAppFontAddFile(configuration_.get(), reinterpret_cast<const FcChar8*>(file.c_str()));
-    pango_fc_font_map_config_changed(PANGO_FC_FONT_MAP(map_.get()));
 }
 
 }  // namespace canvas

@@ -1,9 +1,7 @@
 #pragma once
 
 #include "platform/canvas/Handles.hpp"
-#include "platform/views/text/Font.hpp"
 
-#include <set>
 #include <string>
 
 namespace canvas {
@@ -14,14 +12,10 @@ class FontSource {
   public:
     explicit FontSource(FcConfigHandle configuration);
 
-    /// A configuration of no fonts at all, into which the stand-ins are added one by one. The
-    /// system's description files are not read.
-    static FontSource standIns();
+    /// A configuration of one font file alone. The system's description files are not read.
+    static FontSource only(const std::string& file);
     /// The system's own configuration, which has a font for whatever can be shown.
     static FontSource system();
-
-    /// Adds a font file; it is read once.
-    void add(const std::string& file);
 
     PangoContext* context() const { return context_.get(); }
 
@@ -29,7 +23,6 @@ class FontSource {
     FcConfigHandle configuration_;
     FontMapHandle map_;
     ContextHandle context_;
-    std::set<std::string> files_;
 };
 
 }  // namespace canvas
