@@ -25,6 +25,19 @@ function(nurva_room name)
         PUBLIC $<BUILD_INTERFACE:nurva_options> ${ARG_ROOMS} PRIVATE ${ARG_LIBRARIES})
 endfunction()
 
+# A program that somebody waits for, made of main.cpp and rooms. At its start most of what its libraries look
+# up is in the C, C++ and GLib libraries, which are searched first when they are linked first.
+function(nurva_program name)
+    cmake_parse_arguments(ARG "" "" "ROOMS" ${ARGN})
+    list(TRANSFORM ARG_ROOMS PREPEND nurva_)
+    add_executable(${name} main.cpp)
+    target_link_options(${name} PRIVATE
+        LINKER:--push-state,--no-as-needed
+        -l:libc.so.6 -lstdc++ -lglib-2.0 -lgobject-2.0
+        LINKER:--pop-state)
+    target_link_libraries(${name} PRIVATE ${ARG_ROOMS})
+endfunction()
+
 # A complaint of GLib or Pango is a fault of ours; what the libraries never free is not.
 set(NURVA_TEST_ENVIRONMENT
     "G_DEBUG=fatal-criticals;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
