@@ -17,7 +17,7 @@ TEST(FirstStart, PutsAllWidgetsOnTheDesktopAsTheCommandLineDrawsThem) {
     WidgetHost host;
     for (const Widget& widget : widgets)
         EXPECT_TRUE(isSeenAsDrawn(widget, session.screen)) << widget.name;
-    ASSERT_TRUE(session.placement());
+    ASSERT_TRUE(soon([&] { return session.placement().has_value(); }));
     EXPECT_EQ(session.placement()->widgets.size(), widgets.size());
     EXPECT_EQ(host.quit(), 0);
 }

@@ -125,6 +125,7 @@ TEST(Killed, TheWidgetHostKnowsItsPlacesAgainAndLeavesNothingRunning) {
         WidgetHost host;
         ASSERT_TRUE(soon([&] { return session.screen.window(room.name).has_value(); }));
         ASSERT_TRUE(soon([&] { return host.extension() != 0; }));
+        ASSERT_TRUE(soon([&] { return session.placement().has_value(); }));
         const pid_t extension = host.extension();
         const auto card = *session.screen.window(room.name);
         session.screen.click(card.x + card.width / 2, card.y + 10);
