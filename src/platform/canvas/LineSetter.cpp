@@ -108,6 +108,11 @@ class Setter {
         : text_(text), font_(font), tracking_(tracking), advances_(text) {}
 
     void append(PangoItem& item) {
+        // Without any font at all there is not even a box to show for a character.
+        if (!item.analysis.font) {
+            set_.complete = false;
+            return;
+        }
         const bool standIn = isStandIn(item.analysis.font, font_.design);
         if (standIn)
             turnLigaturesOff(item);

@@ -13,7 +13,8 @@ struct LineSet {
 };
 
 /// Sets a text on one line in a source's fonts. The clusters' ends are byte offsets in the text
-/// that the drawable text was made from.
+/// that the drawable text was made from. What no font of the source has a glyph for shows as a box;
+/// where there are no fonts, as nothing.
 LineSet setLine(const FontSource& source,
                 const DrawableText& text,
                 const views::Font& font,
