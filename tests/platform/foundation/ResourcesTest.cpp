@@ -80,7 +80,7 @@ TEST(Resources, EveryTextOfTheFacesIsInEnglish) {
         {"dB", {}, "dB"},
         {"antes ±%@", {"6.3"s}, "before ±6.3"},
         {"Sin medir", {}, "Not measured"},
-        {"mídela y sabrás qué corrige", {}, "measure it to see what it corrects"},
+        {"mídela y sabrás qué corrige", {}, "measure it to see what gets corrected"},
         {"Qué está puesto", {}, "What’s on"},
         {"El perfil, su curva y por qué está puesto.",
          {},
