@@ -2,6 +2,9 @@
 
 #include "support/World.hpp"
 
+#include <algorithm>
+#include <utility>
+
 namespace nurva {
 
 namespace {
@@ -26,50 +29,62 @@ EstadoParaWidgets ejemploCon(const Cambio& cambiar) {
 
 struct Lengua {
     std::string nombre;
+    std::string leyenda;
     std::string codigo;
 };
 
-/// Adds a sample in every language that the host application may choose besides Spanish.
-void agregarLenguas(std::vector<Muestra>& muestras,
-                    const std::string& nombre,
-                    const std::string& kind,
-                    EstadoParaWidgets estado) {
-    const std::vector<Lengua> lenguas{{"ingles", "en"},  {"catalan", "ca"}, {"portugues", "pt"},
-                                      {"frances", "fr"}, {"aleman", "de"},  {"italiano", "it"}};
+/// Adds the sample of this name in every language that the host application may choose besides
+/// Spanish.
+void agregarLenguas(std::vector<Muestra>& muestras, const std::string& nombre) {
+    const std::vector<Lengua> lenguas{
+        {"ingles", "English", "en"},       {"catalan", "Catalan", "ca"},
+        {"portugues", "Portuguese", "pt"}, {"frances", "French", "fr"},
+        {"aleman", "German", "de"},        {"italiano", "Italian", "it"}};
+    const Muestra muestra = *std::find_if(muestras.begin(), muestras.end(),
+                                          [&](const Muestra& m) { return m.nombre == nombre; });
     for (const Lengua& lengua : lenguas) {
-        estado.idioma = lengua.codigo;
-        muestras.push_back({nombre + "-" + lengua.nombre, kind, estado});
+        Muestra otra = muestra;
+        otra.nombre += "-" + lengua.nombre;
+        otra.leyenda += ", in " + lengua.leyenda;
+        otra.estado->idioma = lengua.codigo;
+        muestras.push_back(std::move(otra));
     }
 }
 
 std::vector<Muestra> queEstaPuesto() {
     const std::string kind = "nurva.queEstaPuesto";
-    return {
-        {"que-esta-puesto-vigente", kind, ejemplo()},
-        {"que-esta-puesto-cerrado", kind,
+    std::vector<Muestra> muestras{
+        {"que-esta-puesto-vigente", "Current", kind, ejemplo()},
+        {"que-esta-puesto-cerrado", "Closed for 15 minutes", kind,
          ejemploCon([](auto& e) { e.cuando = support::noon.addingTimeInterval(-900); })},
-        {"que-esta-puesto-sin-estado", kind, std::nullopt},
-        {"que-esta-puesto-apagado", kind, ejemploCon([](auto& e) { e.prendido = false; })},
-        {"que-esta-puesto-otro-acento", kind, ejemploCon([](auto& e) {
+        {"que-esta-puesto-sin-estado", "Never seen", kind, std::nullopt},
+        {"que-esta-puesto-apagado", "Equalizer off", kind,
+         ejemploCon([](auto& e) { e.prendido = false; })},
+        {"que-esta-puesto-otro-acento", "Another accent, and a curve beyond its scale", kind,
+         ejemploCon([](auto& e) {
              e.acento = 0xF06EAA;
              e.curva = {12, 9, 6, 3, 0, -3, -6, -9, -12, -15, -9, 0, 9, 15};
          })},
-        {"que-esta-puesto-curva-vacia", kind, ejemploCon([](auto& e) { e.curva = {}; })},
-        {"que-esta-puesto-textos-vacios", kind,
+        {"que-esta-puesto-curva-vacia", "No curve", kind,
+         ejemploCon([](auto& e) { e.curva = {}; })},
+        {"que-esta-puesto-textos-vacios", "Empty texts", kind,
          ejemploCon([](auto& e) { e.perfil = e.razon = e.salida = ""; })},
-        {"que-esta-puesto-textos-largos", kind, ejemploCon([](auto& e) {
+        {"que-esta-puesto-textos-largos", "Long texts", kind, ejemploCon([](auto& e) {
              e.perfil = "Un perfil con un nombre muy largo";
              e.razon =
                  "Porque suena un pódcast muy largo en la aplicación de siempre, y por nada más";
              e.salida = "Los audífonos inalámbricos nuevos de Marta";
          })},
-        {"que-esta-puesto-otros-alfabetos", kind, ejemploCon([](auto& e) {
+        {"que-esta-puesto-otros-alfabetos", "Other alphabets", kind, ejemploCon([](auto& e) {
              e.perfil = "Μουσική";
              e.razon = "Đang phát nhạc · Żółć · Ĝardeno";
              e.salida = "Наушники";
          })},
-        {"que-esta-puesto-provisional", kind, EstadoParaWidgets::porDefecto(support::noon)},
+        {"que-esta-puesto-provisional", "Placeholder, before anything is known", kind,
+         EstadoParaWidgets::porDefecto(support::noon)},
     };
+    agregarLenguas(muestras, "que-esta-puesto-cerrado");
+    return muestras;
 }
 
 AppCorta app(const std::string& nombre, double nivel, bool silenciada = false, bool suena = true) {
@@ -78,8 +93,8 @@ AppCorta app(const std::string& nombre, double nivel, bool silenciada = false, b
 }
 
 /// A sample of the volume widget with these applications.
-Muestra volumen(const std::string& nombre, std::vector<AppCorta> apps) {
-    return {"volumen-" + nombre, "nurva.volumenPorApp",
+Muestra volumen(const std::string& nombre, const std::string& leyenda, std::vector<AppCorta> apps) {
+    return {"volumen-" + nombre, leyenda, "nurva.volumenPorApp",
             ejemploCon([&](auto& e) { e.apps = std::move(apps); })};
 }
 
@@ -91,26 +106,31 @@ std::vector<Muestra> volumenPorApp() {
     for (int i = 1; i <= 8; ++i)
         ocho.push_back(app("Aplicación " + std::to_string(i), i / 8.0));
     std::vector<Muestra> muestras{
-        volumen("tres", tres),
-        volumen("ninguna", {}),
-        volumen("una", {app("Música", 0.5)}),
-        volumen("cuatro",
+        volumen("tres", "Three applications", tres),
+        volumen("ninguna", "None", {}),
+        volumen("una", "One", {app("Música", 0.5)}),
+        volumen("cuatro", "Four, as many as fit",
                 {app("Música", 0.8), app("Cine", 0.125), app("Voz", 0.285), app("Juego", 1)}),
-        volumen("ocho", ocho),
-        volumen("mudas", {app("Música", 0.6, true), app("Cine", 0, true), app("Voz", 1, true)}),
-        volumen("extremos", {app("Cero", 0), app("Dos", 0.02), app("Lleno", 1)}),
-        volumen("fuera", {app("De más", 1.7), app("De menos", -0.2), app("Justo", 0.5)}),
-        volumen("nombres", {app("Un reproductor de música", 0.5), app("موسيقى", 0.5),
-                            app("Μουσική και ήχος", 0.5)}),
-        {"volumen-solo-mirar", kind, ejemploCon([&](auto& e) {
+        volumen("ocho", "More than fit", ocho),
+        volumen("mudas", "All muted",
+                {app("Música", 0.6, true), app("Cine", 0, true), app("Voz", 1, true)}),
+        volumen("extremos", "Silent, barely heard and full",
+                {app("Cero", 0), app("Dos", 0.02), app("Lleno", 1)}),
+        volumen("fuera", "Levels beyond silent and full",
+                {app("De más", 1.7), app("De menos", -0.2), app("Justo", 0.5)}),
+        volumen("nombres", "Long names and other alphabets",
+                {app("Un reproductor de música", 0.5), app("موسيقى", 0.5),
+                 app("Μουσική και ήχος", 0.5)}),
+        {"volumen-solo-mirar", "For looking only", kind, ejemploCon([&](auto& e) {
              e.apps = tres;
              e.dejaCambiar = false;
          })},
-        {"volumen-cerrado", kind,
+        {"volumen-cerrado", "Closed for 15 minutes", kind,
          ejemploCon([](auto& e) { e.cuando = support::noon.addingTimeInterval(-900); })},
-        {"volumen-sin-estado", kind, std::nullopt},
+        {"volumen-sin-estado", "Never seen", kind, std::nullopt},
     };
-    agregarLenguas(muestras, "volumen", kind, ejemploCon([&](auto& e) { e.apps = tres; }));
+    agregarLenguas(muestras, "volumen-tres");
+    agregarLenguas(muestras, "volumen-solo-mirar");
     return muestras;
 }
 
@@ -119,8 +139,10 @@ PerfilCorto perfil(const std::string& nombre, std::vector<double> curva, bool pu
 }
 
 /// A sample of the profile widget with these profiles.
-Muestra perfiles(const std::string& nombre, std::vector<PerfilCorto> perfiles) {
-    return {"perfiles-" + nombre, "nurva.ponerUnPerfil",
+Muestra perfiles(const std::string& nombre,
+                 const std::string& leyenda,
+                 std::vector<PerfilCorto> perfiles) {
+    return {"perfiles-" + nombre, leyenda, "nurva.ponerUnPerfil",
             ejemploCon([&](auto& e) { e.perfiles = std::move(perfiles); })};
 }
 
@@ -132,31 +154,34 @@ std::vector<Muestra> ponerUnPerfil() {
                                           perfil("Cine", {12, 6, 0, 0, 3}),
                                           perfil("Noche", {-12, 0})};
     std::vector<Muestra> muestras{
-        perfiles("cuatro", cuatro),
-        perfiles("ninguno", {}),
-        perfiles("uno", {perfil("Voz clara", subida, true)}),
-        perfiles("nueve", std::vector<PerfilCorto>(9, perfil("Perfil", onda))),
-        perfiles("ninguno-puesto", {perfil("Música", onda), perfil("Cine", subida)}),
-        perfiles("dos-puestos", {perfil("Música", onda, true), perfil("Cine", subida, true)}),
-        perfiles("sin-curva", {perfil("Música", {}), perfil("Cine", {}, true)}),
-        {"perfiles-nombres-largos", kind, ejemploCon([&](auto& e) {
+        perfiles("cuatro", "Four profiles", cuatro),
+        perfiles("ninguno", "None", {}),
+        perfiles("uno", "One", {perfil("Voz clara", subida, true)}),
+        perfiles("nueve", "Nine", std::vector<PerfilCorto>(9, perfil("Perfil", onda))),
+        perfiles("ninguno-puesto", "None of them applied",
+                 {perfil("Música", onda), perfil("Cine", subida)}),
+        perfiles("dos-puestos", "Two of them applied",
+                 {perfil("Música", onda, true), perfil("Cine", subida, true)}),
+        perfiles("sin-curva", "Without curves", {perfil("Música", {}), perfil("Cine", {}, true)}),
+        {"perfiles-nombres-largos", "Long names", kind, ejemploCon([&](auto& e) {
              e.perfil = "Un perfil con un nombre tan largo que no cabe en la cabecera";
              e.perfiles = {perfil("Un perfil de nombre largo", onda), perfil("موسيقى", subida),
                            perfil("Μουσική και ήχος", onda)};
          })},
-        {"perfiles-apagado", kind, ejemploCon([&](auto& e) {
+        {"perfiles-apagado", "Equalizer off", kind, ejemploCon([&](auto& e) {
              e.perfiles = cuatro;
              e.prendido = false;
          })},
-        {"perfiles-solo-mirar", kind, ejemploCon([&](auto& e) {
+        {"perfiles-solo-mirar", "For looking only", kind, ejemploCon([&](auto& e) {
              e.perfiles = cuatro;
              e.dejaCambiar = false;
          })},
-        {"perfiles-cerrado", kind,
+        {"perfiles-cerrado", "Closed for 15 minutes", kind,
          ejemploCon([](auto& e) { e.cuando = support::noon.addingTimeInterval(-900); })},
-        {"perfiles-sin-estado", kind, std::nullopt},
+        {"perfiles-sin-estado", "Never seen", kind, std::nullopt},
     };
-    agregarLenguas(muestras, "perfiles", kind, ejemploCon([&](auto& e) { e.perfiles = cuatro; }));
+    agregarLenguas(muestras, "perfiles-cuatro");
+    agregarLenguas(muestras, "perfiles-solo-mirar");
     return muestras;
 }
 
@@ -173,27 +198,37 @@ std::vector<Muestra> tuCuarto() {
         cambiar(e);
         return e;
     };
-    return {
-        {"cuarto-medido", kind, ejemploCon(medido)},
-        {"cuarto-sin-antes", kind, medidoY([](auto& e) { e.cuartoAntes.reset(); })},
-        {"cuarto-sin-medir", kind, medidoY([](auto& e) {
+    std::vector<Muestra> muestras{
+        {"cuarto-medido", "Measured", kind, ejemploCon(medido)},
+        {"cuarto-sin-antes", "Measured, nothing known of before", kind,
+         medidoY([](auto& e) { e.cuartoAntes.reset(); })},
+        {"cuarto-sin-medir", "Not measured", kind, medidoY([](auto& e) {
              e.cuartoAhora.reset();
              e.medidoHace = "";
          })},
-        {"cuarto-todo-medido", kind, medidoY([](auto& e) { e.salidasSinMedir = 0; })},
-        {"cuarto-uno-por-medir", kind, medidoY([](auto& e) { e.salidasSinMedir = 1; })},
-        {"cuarto-cuenta-negativa", kind, medidoY([](auto& e) { e.salidasSinMedir = -1; })},
-        {"cuarto-textos-largos", kind, medidoY([](auto& e) {
+        {"cuarto-todo-medido", "No output left to measure", kind,
+         medidoY([](auto& e) { e.salidasSinMedir = 0; })},
+        {"cuarto-uno-por-medir", "One output left to measure", kind,
+         medidoY([](auto& e) { e.salidasSinMedir = 1; })},
+        {"cuarto-cuenta-negativa", "A count below zero is no count", kind,
+         medidoY([](auto& e) { e.salidasSinMedir = -1; })},
+        {"cuarto-textos-largos", "Long texts", kind, medidoY([](auto& e) {
              e.salida = "Los audífonos inalámbricos nuevos de Marta en la sala de arriba";
              e.medidoHace = "hace muchísimo tiempo";
          })},
-        {"cuarto-valor-largo", kind, medidoY([](auto& e) { e.cuartoAhora = -12345.67; })},
-        {"cuarto-locale-ingles", kind, ejemploCon(medido), "es", "en_US"},
-        {"cuarto-idioma-ingles", kind, medidoY([](auto& e) { e.idioma = "en"; })},
-        {"cuarto-cerrado", kind,
+        {"cuarto-valor-largo", "A long figure", kind,
+         medidoY([](auto& e) { e.cuartoAhora = -12345.67; })},
+        {"cuarto-locale-ingles", "Numbers as in English, by the system’s locale", kind,
+         ejemploCon(medido), "es", "en_US"},
+        {"cuarto-idioma-ingles", "In English, figure and unit in the system’s language", kind,
+         medidoY([](auto& e) { e.idioma = "en"; })},
+        {"cuarto-cerrado", "Closed for 15 minutes", kind,
          medidoY([](auto& e) { e.cuando = support::noon.addingTimeInterval(-900); })},
-        {"cuarto-sin-estado", kind, std::nullopt, "en", "en_US"},
+        {"cuarto-sin-estado", "Never seen, on a system in English", kind, std::nullopt, "en",
+         "en_US"},
     };
+    agregarLenguas(muestras, "cuarto-sin-medir");
+    return muestras;
 }
 
 }  // namespace

@@ -36,7 +36,7 @@ EstadoParaWidgets estado() {
 }
 
 Muestra diezMilApps() {
-    Muestra muestra{"diez-mil-apps", "nurva.volumenPorApp", estado()};
+    Muestra muestra{.nombre = "diez-mil-apps", .kind = "nurva.volumenPorApp", .estado = estado()};
     for (int i = 0; i < 10000; ++i)
         muestra.estado->apps.push_back({.id = "org.ejemplo.app." + std::to_string(i),
                                         .nombre = "App " + std::to_string(i),
@@ -47,19 +47,19 @@ Muestra diezMilApps() {
 }
 
 Muestra appDeNombre(const std::string& nombre) {
-    Muestra muestra{"nombre", "nurva.volumenPorApp", estado()};
+    Muestra muestra{.nombre = "nombre", .kind = "nurva.volumenPorApp", .estado = estado()};
     muestra.estado->apps = {{"a", nombre, 0.5, false, true}};
     return muestra;
 }
 
 Muestra textos(const std::string& texto) {
-    Muestra muestra{"textos", "nurva.queEstaPuesto", estado()};
+    Muestra muestra{.nombre = "textos", .kind = "nurva.queEstaPuesto", .estado = estado()};
     muestra.estado->perfil = muestra.estado->razon = muestra.estado->salida = texto;
     return muestra;
 }
 
 Muestra millonDeGanancias() {
-    Muestra muestra{"ganancias", "nurva.queEstaPuesto", estado()};
+    Muestra muestra{.nombre = "ganancias", .kind = "nurva.queEstaPuesto", .estado = estado()};
     muestra.estado->curva.clear();
     for (std::size_t i = 0; i < millon; ++i)
         muestra.estado->curva.push_back(static_cast<double>(i * 7919 % 2400) / 100 - 12);

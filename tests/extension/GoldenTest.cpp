@@ -1,5 +1,6 @@
 #include "extension/Escaparate.hpp"
 #include "extension/EscenaDeMuestra.hpp"
+#include "extension/GoldenFiles.hpp"
 #include "platform/canvas/PNG.hpp"
 #include "platform/canvas/PixelCanvas.hpp"
 #include "platform/views/scene/SceneJSON.hpp"
@@ -9,30 +10,15 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <memory>
+#include <vector>
 
 namespace nurva {
 namespace {
 
-bool rehacer() {
-    return std::getenv("NURVA_REMAKE_GOLDENS") != nullptr;
-}
-
 std::filesystem::path archivo(const Muestra& muestra, const char* tipo) {
     return std::filesystem::path(NURVA_TESTS_FOLDER) / "golden" / (muestra.nombre + tipo);
-}
-
-std::string leido(const std::filesystem::path& ruta) {
-    std::ifstream entrada(ruta, std::ios::binary);
-    return {std::istreambuf_iterator<char>(entrada), {}};
-}
-
-void escrito(const std::filesystem::path& ruta, const std::string& bytes) {
-    std::ofstream(ruta, std::ios::binary) << bytes;
 }
 
 /// The scene as text, one element a line.
@@ -51,6 +37,18 @@ std::string enLineas(const views::Scene& escena) {
 struct Superficie {
     void operator()(cairo_surface_t* superficie) const { cairo_surface_destroy(superficie); }
 };
+
+/// The pixels of a kept picture; none where there is no picture of this size.
+std::vector<std::uint32_t> guardados(const std::filesystem::path& ruta, canvas::PixelSize tamano) {
+    const std::unique_ptr<cairo_surface_t, Superficie> imagen(
+        cairo_image_surface_create_from_png(ruta.c_str()));
+    if (cairo_image_surface_get_width(imagen.get()) != tamano.width ||
+        cairo_image_surface_get_height(imagen.get()) != tamano.height)
+        return {};
+    const auto* datos =
+        reinterpret_cast<const std::uint32_t*>(cairo_image_surface_get_data(imagen.get()));
+    return {datos, datos + tamano.count()};
+}
 
 struct Golden : testing::TestWithParam<Muestra> {
     static canvas::FontLibrary& fuentes() {
@@ -71,17 +69,13 @@ TEST_P(Golden, PictureIsAsKept) {
     canvas::PixelCanvas lienzo(fuentes());
     const canvas::Pixels pixeles = lienzo.draw(escenaDe(GetParam(), fuentes()), escala);
     const auto ruta = archivo(GetParam(), ".png");
-    if (rehacer())
+    // What looks the same is left alone, whatever the encoder makes of it today.
+    if (rehacer() && !std::ranges::equal(guardados(ruta, pixeles.size), pixeles.argb))
         escrito(ruta, canvas::encodePNG(pixeles));
-    const std::unique_ptr<cairo_surface_t, Superficie> guardada(
-        cairo_image_surface_create_from_png(ruta.c_str()));
-    ASSERT_EQ(cairo_surface_status(guardada.get()), CAIRO_STATUS_SUCCESS) << ruta;
-    ASSERT_EQ(cairo_image_surface_get_width(guardada.get()), pixeles.size.width);
-    ASSERT_EQ(cairo_image_surface_get_height(guardada.get()), pixeles.size.height);
-    const auto* datos =
-        reinterpret_cast<const std::uint32_t*>(cairo_image_surface_get_data(guardada.get()));
+    const std::vector<std::uint32_t> guardada = guardados(ruta, pixeles.size);
+    ASSERT_EQ(guardada.size(), pixeles.size.count()) << ruta;
     // Another version of the font rasterizer may move an edge by a shade, not a letter by a pixel.
-    const auto diferencia = comparePictures({datos, pixeles.size.count()}, pixeles.argb, 24);
+    const auto diferencia = comparePictures(guardada, pixeles.argb, 24);
     EXPECT_LE(diferencia.changedShare, 0.001) << diferencia;
     EXPECT_LE(diferencia.averageChange, 0.1) << diferencia;
 }
