@@ -3,9 +3,11 @@
 #include "cli/Commands.hpp"
 #include "cli/Failure.hpp"
 #include "cli/Message.hpp"
+#include "cli/WrongUse.hpp"
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <iostream>
 #include <memory>
 #include <string>
@@ -20,15 +22,20 @@ int report(ExitStatus status, const std::string& text) {
     return static_cast<int>(status);
 }
 
-/// What is wrong with the command line, in the user's language; CLI11 speaks English only.
-std::string text(const CLI::ParseError& error) {
-    const std::string detail = error.what();
-    if (dynamic_cast<const CLI::RequiredError*>(&error))
-        return message("falta algo en la orden: %@", {detail});
-    if (dynamic_cast<const CLI::ExtrasError*>(&error))
-        return message("sobra algo en la orden: %@", {detail});
-    return message("un valor de la orden no sirve: %@", {detail});
-}
+/// CLI11 counts bytes where it lines up the descriptions of options; letters beyond ASCII have
+/// several.
+struct HelpFormatter : CLI::Formatter {
+    std::string make_option(const CLI::Option* option, bool isPositional) const override {
+        const std::string name = make_option_name(option, isPositional) + make_option_opts(option);
+        const auto continued = std::count_if(name.begin(), name.end(),
+                                             [](unsigned char byte) { return byte >> 6 == 0b10; });
+        std::string line = CLI::Formatter::make_option(option, isPositional);
+        const std::size_t end = 2 + name.size();
+        if (line.compare(end, 1, " ") == 0)
+            line.insert(end, static_cast<std::size_t>(continued), ' ');
+        return line;
+    }
+};
 
 void addHelp(CLI::App& command) {
     command.set_help_flag("-h,--help", message("Muestra esta ayuda"))->group(message("Opciones"));
@@ -37,7 +44,7 @@ void addHelp(CLI::App& command) {
 /// Puts the words that CLI11 adds to the help into the user's language. Commands added later take
 /// them over.
 void speakUsersLanguage(CLI::App& app) {
-    const auto formatter = std::make_shared<CLI::Formatter>();
+    const auto formatter = std::make_shared<HelpFormatter>();
     formatter->label("Usage", message("Uso"));
     formatter->label("OPTIONS", message("OPCIONES"));
     formatter->label("Positionals", message("Argumentos"));
@@ -83,8 +90,7 @@ int run(int argumentCount, const char* const* arguments) {
     } catch (const CLI::Success& help) {
         return app.exit(help);
     } catch (const CLI::ParseError& error) {
-        return report(ExitStatus::wrongUse,
-                      text(error) + "\n       " + message("ayuda: nurva --help"));
+        return report(ExitStatus::wrongUse, wrongUse(app, error));
     } catch (const Failure& failure) {
         return report(failure.status, failure.what());
     }

@@ -16,7 +16,8 @@ void addCompletions(CLI::App& app) {
         "completions", message("Lo que lee un intérprete de órdenes para completar las de nurva"));
     command.add_option("shell", *shell, message("bash, zsh o fish"))
         ->required()
-        ->check(CLI::IsMember({"bash", "zsh", "fish"}));
+        ->check(CLI::IsMember({"bash", "zsh", "fish"}))
+        ->option_text(message("TEXTO") + " " + message("OBLIGATORIO"));
     command.callback([shell, &app] {
         const auto table = commandTable(app);
         writeOutput({}, *shell == "bash"  ? bashCompletions(table)

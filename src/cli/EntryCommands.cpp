@@ -21,7 +21,7 @@ void printTimeline(const WidgetOptions& options) {
         widget.timeline({.environment = environment, .family = widget.families().front()});
     const widgets::AnyEntry& entry = timeline.entries.front();
     if (!entry.hasState()) {
-        if (const auto reason = whyNoSnapshot(environment))
+        if (const auto reason = whyNoSnapshot(environment, options.state))
             std::cerr << "nurva: " << *reason << '\n';
     }
     writeOutput({}, json(entry, timeline.policy.earliest));

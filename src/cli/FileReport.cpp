@@ -7,6 +7,7 @@
 #include "platform/foundation/FileError.hpp"
 #include "platform/foundation/json/JSONDecoder.hpp"
 
+#include <cerrno>
 #include <cstdio>
 #include <cstring>
 
@@ -28,12 +29,22 @@ std::string reasonWithoutPlace(const std::string& description) {
     return message("no es JSON válido en UTF-8: línea %lld, columna %lld", {line, column});
 }
 
+std::string reason(const foundation::FileError& error) {
+    // What the file manager says of devices, pipes and the like.
+    if (error.code() == EINVAL)
+        return message("no es un archivo normal");
+    return std::strerror(error.code());
+}
+
 std::string reason(const foundation::DecodingError& error) {
     using Kind = foundation::DecodingError::Kind;
     switch (error.kind) {
         case Kind::keyNotFound:
             return message("falta esta clave, que es obligatoria");
         case Kind::typeMismatch:
+            if (error.debugDescription.starts_with("Invalid number of keys"))
+                return message("tiene que llevar una sola de estas claves: %@",
+                               {"ponerPerfil, alternarEncendido, silenciar, volumen"});
             return message("el valor es de otro tipo");
         case Kind::valueNotFound:
             return message("es null y tiene que llevar un valor");
@@ -54,7 +65,7 @@ FileReport<Value> reportOn(const foundation::FileManager& files,
         const std::string data = files.contents(path);
         return {.value = foundation::JSONDecoder().decode<Value>(data)};
     } catch (const foundation::FileError& error) {
-        return {.refusal = Refusal{"unreadable", "", std::strerror(error.code())}};
+        return {.refusal = Refusal{"unreadable", "", reason(error)}};
     } catch (const foundation::DecodingError& error) {
         return {.refusal = Refusal{std::string(name(error.kind)), error.place(), reason(error)}};
     }
@@ -72,7 +83,8 @@ std::string text(const std::string& file, const Refusal& refusal) {
                    {file, refusal.kind, refusal.path, refusal.reason});
 }
 
-std::optional<std::string> whyNoSnapshot(const foundation::Environment& environment) {
+std::optional<std::string> whyNoSnapshot(const foundation::Environment& environment,
+                                         const std::optional<std::string>& given) {
     const std::string& group = nurva::GrupoDeApps::id(environment);
     const auto container = environment.fileManager.containerURL(group);
     if (!container)
@@ -81,7 +93,7 @@ std::optional<std::string> whyNoSnapshot(const foundation::Environment& environm
     const auto report = reportOn<nurva::EstadoParaWidgets>(environment.fileManager, file);
     if (!report.refusal)
         return std::nullopt;
-    return text(file.string(), *report.refusal);
+    return text(given.value_or(file.string()), *report.refusal);
 }
 
 }  // namespace cli

@@ -29,7 +29,9 @@ FileReport<Value> reportOn(const foundation::FileManager& files, const std::file
 /// One line saying why a file was refused.
 std::string text(const std::string& file, const Refusal& refusal);
 
-/// Why the widgets have no snapshot in this environment; nothing where they have one.
-std::optional<std::string> whyNoSnapshot(const foundation::Environment& environment);
+/// Why the widgets have no snapshot in this environment; nothing where they have one. Names the
+/// file as it was given, or where it lies in the container.
+std::optional<std::string> whyNoSnapshot(const foundation::Environment& environment,
+                                         const std::optional<std::string>& given = {});
 
 }  // namespace cli

@@ -85,7 +85,7 @@ void render(const RenderOptions& options) {
     canvas::FontLibrary fonts;
     const RenderedEntry rendered = renderedEntry(options, environment, fonts);
     if (!rendered.entry.hasState()) {
-        if (const auto reason = whyNoSnapshot(environment))
+        if (const auto reason = whyNoSnapshot(environment, options.widget.state))
             std::cerr << "nurva: " << *reason << '\n';
     }
     std::string bytes;

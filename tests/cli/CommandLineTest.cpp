@@ -1,5 +1,10 @@
 #include "cli/CommandLine.hpp"
 
+#include <algorithm>
+#include <set>
+#include <sstream>
+#include <vector>
+
 namespace {
 
 TEST_F(CommandLine, DrawsTheFaceOfASnapshotAsASceneInJSON) {
@@ -64,17 +69,20 @@ TEST_F(CommandLine, DrawsTheFaceWithoutDataAndSaysWhy) {
     struct Case {
         std::string state;
         std::string reason;
+        std::string file;
     };
     const std::vector<Case> cases{
-        {"--state /nowhere/estado.json", "unreadable"},
-        {"--state " + file("{", "half.json"), "dataCorrupted"},
-        {"--state " + file("{}", "empty.json"), "keyNotFound"},
-        {"", "unreadable"},
+        {"--state /nowhere/a.json", "unreadable", " /nowhere/a.json: "},
+        {"--state /dev/null", "(unreadable): no es un archivo normal", " /dev/null: "},
+        {"--state " + file("{", "half.json"), "dataCorrupted", "/half.json: "},
+        {"--state " + file("{}", "empty.json"), "keyNotFound", "/empty.json: "},
+        {"", "unreadable", "/group.org.nurva.Nurva/estado.json: "},
     };
-    for (const auto& [state, reason] : cases) {
+    for (const auto& [state, reason, file] : cases) {
         const Outcome outcome = nurva("render nurva.queEstaPuesto --format json " + state);
         EXPECT_EQ(outcome.status, 0) << state;
         EXPECT_NE(outcome.errors.find(reason), std::string::npos) << outcome.errors;
+        EXPECT_NE(outcome.errors.find(file), std::string::npos) << outcome.errors;
         EXPECT_EQ(json::parse(outcome.output)["drawing"][1]["text"],
                   "Abre Nurva una vez y este widget se llena.");
     }
@@ -172,6 +180,43 @@ TEST_F(CommandLine, RefusesWrongUseWithAMessage) {
         EXPECT_EQ(outcome.output, "") << arguments;
         EXPECT_TRUE(outcome.errors.starts_with("nurva: ")) << arguments << ": " << outcome.errors;
     }
+}
+
+TEST_F(CommandLine, NamesWhatIsWrongInTheUsersWords) {
+    struct Case {
+        std::string arguments;
+        std::string said;
+    };
+    const std::vector<Case> cases{
+        {"", "falta la orden; hay: render, "},
+        {"rendr", "no hay ninguna orden «rendr»; hay: render, "},
+        {"--versio", "sobra algo en la orden: --versio\n       ayuda: nurva --help"},
+        {"render", "falta algo en la orden: kind\n       ayuda: nurva render --help"},
+        {"render nurva.tuCuarto b --c", "sobra algo en la orden: b --c\n"},
+        {"render nurva.tuCuarto --scale dos", "no sirve: --scale dos (Píxeles por punto)\n"},
+        {"render nurva.tuCuarto --format gif", "no sirve: --format gif (png, svg o json)\n"},
+        {"render nurva.tuCuarto --state", "no sirve: --state (Archivo del estado"},
+        {"completions ksh", "no sirve: shell ksh (bash, zsh o fish)\n"},
+        {"check-request",
+         "falta algo en la orden: files\n       ayuda: nurva check-request --help"},
+    };
+    for (const auto& [arguments, said] : cases)
+        EXPECT_NE(nurva(arguments).errors.find(said), std::string::npos)
+            << arguments << ": " << nurva(arguments).errors;
+}
+
+TEST_F(CommandLine, LinesUpTheHelpWhateverTheLanguage) {
+    std::istringstream help(nurva("render --help").output);
+    std::set<std::size_t> columns;
+    for (std::string line; std::getline(help, line);) {
+        const std::size_t last = line.rfind("   ");
+        if (!line.starts_with("  ") || last == std::string::npos)
+            continue;
+        const auto letters = std::count_if(line.begin(), line.begin() + static_cast<int>(last),
+                                           [](unsigned char byte) { return byte >> 6 != 0b10; });
+        columns.insert(static_cast<std::size_t>(letters));
+    }
+    EXPECT_EQ(columns.size(), 1u) << nurva("render --help").output;
 }
 
 TEST_F(CommandLine, NamesTheKindsThereAre) {
@@ -279,8 +324,11 @@ TEST_F(CommandLine, SaysWhetherARequestIsAccepted) {
     EXPECT_EQ(refused["kind"], "keyNotFound");
     EXPECT_EQ(refused["path"], "silenciar.si");
     EXPECT_EQ(nurva("check-request " + bad).status, 1);
-    EXPECT_EQ(json::parse(nurva("check-request --json " + file("{}", "none.json")).output)["kind"],
-              "typeMismatch");
+    const json none = json::parse(nurva("check-request --json " + file("{}", "none.json")).output);
+    EXPECT_EQ(none["kind"], "typeMismatch");
+    EXPECT_EQ(none["reason"],
+              "tiene que llevar una sola de estas claves: ponerPerfil, alternarEncendido, "
+              "silenciar, volumen");
 }
 
 TEST_F(CommandLine, SaysWhereATextIsNoJSONAndWhichNumberDoesNotFit) {
