@@ -28,24 +28,36 @@ FolderWatch::FolderWatch(std::filesystem::path folder,
     if (!notifier_)
         throw std::system_error(errno, std::generic_category(), "inotify");
     watch();
+    if (watched_ < 0)
+        throw std::system_error(ENOSPC, std::generic_category(), "inotify");
     source_ = whenReadable(notifier_.number(), [this] { read(); });
 }
 
 void FolderWatch::watch() {
-    if (watched_ >= 0)
-        ::inotify_rm_watch(notifier_.number(), watched_);
-    watched_ = -1;
-    for (std::filesystem::path place = folder_; watched_ < 0; place = place.parent_path()) {
+    std::filesystem::path missing;
+    std::error_code ignored;
+    // What came while the folder above was looked at would never be told of: that is looked for
+    // again. What is there and cannot be watched is not.
+    do {
+        if (watched_ >= 0)
+            ::inotify_rm_watch(notifier_.number(), watched_);
+        missing = watchClosest();
+    } while (!missing.empty() && std::filesystem::is_directory(missing, ignored));
+}
+
+std::filesystem::path FolderWatch::watchClosest() {
+    std::filesystem::path missing;
+    std::filesystem::path place = folder_;
+    while (true) {
         watchesFolder_ = place == folder_;
         watched_ = ::inotify_add_watch(notifier_.number(), place.c_str(),
                                        watchesFolder_ ? ofFiles : ofFolders);
-        if (place == place.root_path())
-            break;
+        if (watched_ >= 0 || place == place.root_path())
+            return missing;
+        if (errno == ENOENT || errno == ENOTDIR)
+            missing = place;
+        place = place.parent_path();
     }
-    // A folder that came while the one above was looked at would never be told of.
-    std::error_code ignored;
-    if (!watchesFolder_ && std::filesystem::is_directory(folder_, ignored))
-        watch();
 }
 
 void FolderWatch::read() {

@@ -11,7 +11,7 @@
 namespace widgethost {
 
 /// Tells of files that change in a folder, and of the folder when it comes or goes: it need not be
-/// there.
+/// there. One that may not be watched is told of as little as one that never comes.
 class FolderWatch {
   public:
     struct Events {
@@ -24,6 +24,9 @@ class FolderWatch {
 
   private:
     void watch();
+    /// Watches the folder, or the closest one above that can be watched. Answers the next one on
+    /// the way down, where it is not there.
+    std::filesystem::path watchClosest();
     void read();
 
     std::filesystem::path folder_;

@@ -4,6 +4,7 @@
 
 #include <glib.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <filesystem>
 
@@ -77,6 +78,21 @@ TEST_F(Watched, FollowsAFolderWhoseParentIsReplaced) {
     EXPECT_EQ(told(), Told(0, 1));
     std::filesystem::create_directories(folder());
     EXPECT_EQ(told(), Told(0, 1));
+}
+
+TEST_F(Watched, GoesWithoutAFolderThatItMayNotWatch) {
+    std::filesystem::create_directories(folder());
+    std::filesystem::permissions(above.path(), std::filesystem::perms(0755));
+    std::filesystem::permissions(folder(), std::filesystem::perms::none);
+    const auto watchAsNobody = [&] {
+        constexpr uid_t nobody = 65534;
+        if (::geteuid() == 0 && ::setresuid(nobody, nobody, nobody) != 0)
+            ::_exit(1);
+        const FolderWatch watched = watch(*this);
+        ::_exit(told() == Told(0, 0) ? 0 : 2);
+    };
+    EXPECT_EXIT(watchAsNobody(), testing::ExitedWithCode(0), "");
+    std::filesystem::permissions(folder(), std::filesystem::perms::owner_all);
 }
 
 }  // namespace
