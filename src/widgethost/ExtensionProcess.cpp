@@ -78,6 +78,13 @@ ExtensionProcess::ExtensionProcess(const std::filesystem::path& program, bool re
     if (error != 0)
         fail(error, program.string());
     process_ = foundation::FileDescriptor(static_cast<int>(::syscall(SYS_pidfd_open, id_, 0)));
+    if (!process_) {
+        // A process whose end nobody would notice is none to work with.
+        const int failure = errno;
+        kill();
+        ::waitpid(id_, nullptr, 0);
+        fail(failure, "pidfd_open");
+    }
 }
 
 ExtensionProcess::~ExtensionProcess() {
