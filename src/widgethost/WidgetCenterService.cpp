@@ -35,6 +35,7 @@ void WidgetCenterService::post(const std::string& name) {
 }
 
 void WidgetCenterService::connect() {
+    retry_.reset();
     sd_bus* opened = nullptr;
     if (sd_bus_open_user(&opened) < 0)
         return retry();
