@@ -51,7 +51,7 @@ Session::Contents::Slot Session::Contents::open(std::string kind,
 }
 
 void Session::Contents::close(Slot slot) {
-    if (const CardState& card = cards_.at(slot); card.memory && card.lentTo == supervisor_.number())
+    if (cards_.at(slot).lentTo == supervisor_.number())
         if (ExtensionLink* const link = supervisor_.running())
             link->takeBack(slot);
     cards_.erase(slot);

@@ -3,11 +3,15 @@
 #include "platform/canvas/PixelCanvas.hpp"
 #include "platform/widgets/EntryRenderer.hpp"
 #include "processes/Stage.hpp"
+#include "support/Program.hpp"
 
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace {
@@ -114,6 +118,37 @@ TEST(Session, LetsCardsComeAndGoAtAnyTime) {
     }
     const Viewer last(session, room);
     EXPECT_TRUE(soon([&] { return last.shown == 1; }));
+}
+
+/// How many pictures the extension has in its memory; nothing where it does not let anybody see.
+std::optional<std::ptrdiff_t> picturesOfExtension() {
+    const std::string maps =
+        support::contentsOf("/proc/" + std::to_string(extensionProcess()) + "/maps");
+    if (maps.empty())
+        return std::nullopt;
+    std::ptrdiff_t count = 0;
+    for (auto at = maps.find("memfd:"); at != std::string::npos; at = maps.find("memfd:", at + 1))
+        ++count;
+    return count;
+}
+
+TEST(Session, TakesBackThePicturesOfCardsThatAreNoMore) {
+    Stage stage;
+    stage.publish(music());
+    Session session(realExtension());
+    const Viewer keeper(session, room);
+    ASSERT_TRUE(soon([&] { return keeper.shown == 1; }));
+    if (!picturesOfExtension())
+        GTEST_SKIP() << "only root sees what a confined process has";
+    {
+        const Viewer other(session, volume);
+        ASSERT_TRUE(soon([&] { return other.shown == 1; }));
+        EXPECT_EQ(picturesOfExtension(), 2);
+        // While another card is asked for, so that this one's new picture is not lent yet.
+        session.reload(room);
+        other.display->setScale(3);
+    }
+    EXPECT_TRUE(soon([&] { return picturesOfExtension() == 1; }));
 }
 
 TEST(Session, SaysThatThereIsNoSuchWidget) {
