@@ -248,11 +248,13 @@ void Session::Contents::post(const std::string& name) {
 }
 
 void Session::Contents::restart() {
-    // What a process may reach is settled when it starts.
+    // What a process may reach is settled when it starts. What this one was asked the next one is.
     supervisor_.end();
+    presses_.ended(Ending::fromOutside);
     if (const auto slot = std::exchange(asked_, std::nullopt); slot && card(*slot))
         waiting_.push_front(*slot);
     pacing.ask({});
+    goOn();
 }
 
 }  // namespace widgethost

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -73,6 +74,21 @@ TEST(Reloading, FindsAContainerThatComesAfterIt) {
     ASSERT_TRUE(soon([&] { return !viewer.shows("Recién llegado"); }));
     stage.publish(estado);
     EXPECT_TRUE(soon([&] { return viewer.shows("Recién llegado"); }));
+}
+
+TEST(Reloading, PerformsWhatIsPressedWhileTheContainerIsReplaced) {
+    Stage stage;
+    stage.publish(music());
+    Session session(realExtension());
+    Viewer viewer(session, room);
+    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
+    signalExtension(SIGSTOP);
+    viewer.display->press({.identifier = "AlternarEncendido"});
+    std::filesystem::remove_all(stage.container());
+    stage.publish(music());
+    EXPECT_TRUE(soon([&] { return stage.request() == R"({"alternarEncendido":{}})"; }));
+    viewer.display->press({.identifier = "PonerPerfil", .parameters = {{"id", "cine"}}});
+    EXPECT_TRUE(soon([&] { return stage.request() == R"({"ponerPerfil":{"_0":"cine"}})"; }));
 }
 
 TEST(Reloading, AsksAgainWhenTheHostApplicationSaysSo) {
