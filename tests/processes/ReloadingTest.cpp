@@ -33,8 +33,7 @@ TEST(Reloading, WantsToBeAskedAgainAfterAQuarterOfAnHour) {
 }
 
 TEST(Reloading, AsksAWidgetAgainOnceItsActionIsDone) {
-    Stage stage;
-    stage.publish(music());
+    const Stage stage(music());
     Session session(realExtension());
     Viewer viewer(session, whatIsOn);
     Viewer pressed(session, profiles);
@@ -48,17 +47,13 @@ TEST(Reloading, AsksAWidgetAgainOnceItsActionIsDone) {
 }
 
 TEST(Reloading, AsksAgainWhenTheSnapshotChanges) {
-    Stage stage;
-    stage.publish(music());
-    Session session(realExtension());
-    const Viewer viewer(session, whatIsOn);
-    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
+    OneCard card(whatIsOn);
     nurva::EstadoParaWidgets other = music();
     other.perfil = "Cine de noche";
-    stage.publish(other);
-    EXPECT_TRUE(soon([&] { return viewer.shows("Cine de noche"); }));
-    std::filesystem::remove(stage.container() / "estado.json");
-    EXPECT_TRUE(soon([&] { return !viewer.shows("Cine de noche"); }));
+    card.stage.publish(other);
+    EXPECT_TRUE(soon([&] { return card.viewer.shows("Cine de noche"); }));
+    std::filesystem::remove(card.stage.container() / "estado.json");
+    EXPECT_TRUE(soon([&] { return !card.viewer.shows("Cine de noche"); }));
 }
 
 TEST(Reloading, FindsAContainerThatComesAfterIt) {
@@ -77,23 +72,18 @@ TEST(Reloading, FindsAContainerThatComesAfterIt) {
 }
 
 TEST(Reloading, PerformsWhatIsPressedWhileTheContainerIsReplaced) {
-    Stage stage;
-    stage.publish(music());
-    Session session(realExtension());
-    Viewer viewer(session, room);
-    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
+    OneCard card(room);
     signalExtension(SIGSTOP);
-    viewer.display->press({.identifier = "AlternarEncendido"});
-    std::filesystem::remove_all(stage.container());
-    stage.publish(music());
-    EXPECT_TRUE(soon([&] { return stage.request() == R"({"alternarEncendido":{}})"; }));
-    viewer.display->press({.identifier = "PonerPerfil", .parameters = {{"id", "cine"}}});
-    EXPECT_TRUE(soon([&] { return stage.request() == R"({"ponerPerfil":{"_0":"cine"}})"; }));
+    card.viewer.display->press({.identifier = "AlternarEncendido"});
+    std::filesystem::remove_all(card.stage.container());
+    card.stage.publish(music());
+    EXPECT_TRUE(soon([&] { return card.stage.request() == R"({"alternarEncendido":{}})"; }));
+    card.viewer.display->press({.identifier = "PonerPerfil", .parameters = {{"id", "cine"}}});
+    EXPECT_TRUE(soon([&] { return card.stage.request() == R"({"ponerPerfil":{"_0":"cine"}})"; }));
 }
 
 TEST(Reloading, AsksAgainWhenTheHostApplicationSaysSo) {
-    Stage stage;
-    stage.publish(music());
+    const Stage stage(music());
     Session session(realExtension());
     const Viewer one(session, whatIsOn);
     const Viewer other(session, room);
@@ -108,53 +98,41 @@ TEST(Reloading, AsksAgainWhenTheHostApplicationSaysSo) {
 }
 
 TEST(Reloading, AsksAgainForAHostApplicationThatDoesNotWait) {
-    Stage stage;
-    stage.publish(music());
-    Session session(realExtension());
-    const Viewer viewer(session, room);
-    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
+    OneCard card(room);
     EXPECT_TRUE(soon([&] {
         widgets::WidgetCenter::reloadAllTimelines();
-        return viewer.shown > 1;
+        return card.viewer.shown > 1;
     }));
 }
 
 TEST(Reloading, PutsABurstOfReloadsTogetherAndShowsTheLastState) {
-    Stage stage;
-    stage.publish(music());
-    Session session(realExtension());
-    const Viewer viewer(session, whatIsOn);
-    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
+    OneCard card(whatIsOn);
     nurva::EstadoParaWidgets estado = music();
     const auto start = std::chrono::steady_clock::now();
     int asked = 0;
     // It goes on until enough has been shown, so that a reload cannot be put off for ever.
     EXPECT_TRUE(soon([&] {
         for (int i = 0; i < 100; ++i, ++asked)
-            session.reload();
+            card.session.reload();
         estado.perfil = "Estado " + std::to_string(asked);
-        stage.publish(estado);
-        return viewer.shown >= 20;
+        card.stage.publish(estado);
+        return card.viewer.shown >= 20;
     }));
     const auto spans = (std::chrono::steady_clock::now() - start) / 200ms + 1;
-    EXPECT_LE(viewer.shown, 1 + 4 * spans);  // twenty a second, after the first
-    EXPECT_TRUE(soon([&] { return viewer.shows(estado.perfil); }));
+    EXPECT_LE(card.viewer.shown, 1 + 4 * spans);  // twenty a second, after the first
+    EXPECT_TRUE(soon([&] { return card.viewer.shows(estado.perfil); }));
 }
 
 TEST(Reloading, OutlivesTheBusAndFindsItAgain) {
-    Stage stage;
-    stage.publish(music());
-    Session session(realExtension());
-    const Viewer viewer(session, room);
-    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
-    stage.bus().end();
+    OneCard card(room);
+    card.stage.bus().end();
     letPass(50ms);
-    stage.publish(music());
-    ASSERT_TRUE(soon([&] { return viewer.shown == 2; }));
-    stage.bus().start();
+    card.stage.publish(music());
+    ASSERT_TRUE(soon([&] { return card.viewer.shown == 2; }));
+    card.stage.bus().start();
     EXPECT_TRUE(soon([&] {
         widgets::WidgetCenter::reloadAllTimelines();
-        return viewer.shown > 2;
+        return card.viewer.shown > 2;
     }));
 }
 
@@ -185,11 +163,7 @@ bool comesToRest(std::chrono::milliseconds time) {
 }
 
 TEST(Reloading, WakesNobodyAtRest) {
-    Stage stage;
-    stage.publish(music());
-    Session session(realExtension());
-    const Viewer viewer(session, room);
-    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
+    OneCard card(room);
     EXPECT_TRUE(comesToRest(300ms));
 }
 

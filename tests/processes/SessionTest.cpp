@@ -58,8 +58,7 @@ TEST(Session, ListsTheWidgetsOfTheExtensionInItsOrderAndInTheUsersLanguage) {
 }
 
 TEST(Session, ShowsEachWidgetAsItIsDrawnElsewhere) {
-    Stage stage;
-    stage.publish(music());
+    const Stage stage(music());
     Session session(realExtension());
     for (const char* kind : {whatIsOn, profiles, room, volume})
         for (const double scale : {1.0, 1.25, 2.0, 3.0}) {
@@ -95,8 +94,7 @@ TEST(Session, ShowsAPlaceholderThenTheSnapshotInAPreview) {
 }
 
 TEST(Session, DrawsInAnotherScaleWhenAsked) {
-    Stage stage;
-    stage.publish(music());
+    const Stage stage(music());
     Session session(realExtension());
     const Viewer viewer(session, room, 1);
     ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
@@ -108,8 +106,7 @@ TEST(Session, DrawsInAnotherScaleWhenAsked) {
 }
 
 TEST(Session, LetsCardsComeAndGoAtAnyTime) {
-    Stage stage;
-    stage.publish(music());
+    const Stage stage(music());
     Session session(realExtension());
     for (int turn = 0; turn < 100; ++turn) {
         const Viewer viewer(session, turn % 2 == 0 ? volume : room, 1 + turn % 3);
@@ -133,8 +130,7 @@ std::optional<std::ptrdiff_t> picturesOfExtension() {
 }
 
 TEST(Session, TakesBackThePicturesOfCardsThatAreNoMore) {
-    Stage stage;
-    stage.publish(music());
+    const Stage stage(music());
     Session session(realExtension());
     const Viewer keeper(session, room);
     ASSERT_TRUE(soon([&] { return keeper.shown == 1; }));

@@ -33,8 +33,7 @@ TEST(Signals, OneTellsOfWhatAPressAsksFor) {
 }
 
 TEST(Signals, ThatTheBundleDoesNotNameAreNotSent) {
-    Stage stage;
-    stage.publish(music());
+    const Stage stage(music());
     const support::TemporaryFolder folder;
     const auto bundle = folder.path() / "NurvaWidgets.appex";
     std::filesystem::copy(NURVA_RESOURCES_FOLDER "/NurvaWidgets.appex", bundle,

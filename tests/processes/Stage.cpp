@@ -15,6 +15,7 @@
 #include <fstream>
 #include <future>
 #include <stdexcept>
+#include <utility>
 
 namespace {
 
@@ -30,6 +31,10 @@ Stage::Stage() {
     // What looks for leaks at a process's end would have to trace it, which its confinement
     // forbids.
     ::setenv("ASAN_OPTIONS", "detect_leaks=0", 1);
+}
+
+Stage::Stage(nurva::EstadoParaWidgets estado) : Stage() {
+    publish(std::move(estado));
 }
 
 Stage::~Stage() {
@@ -143,4 +148,10 @@ const remote::Element& Viewer::element(const std::string& label) const {
 
 void Viewer::press(const std::string& label) {
     display->press(element(label).action.value());
+}
+
+OneCard::OneCard(std::string kind, const widgethost::SessionOptions& options)
+    : session(options), viewer(session, std::move(kind)) {
+    if (!soon([&] { return viewer.face.has_value(); }))
+        throw std::runtime_error("no picture comes");
 }

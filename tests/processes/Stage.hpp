@@ -21,6 +21,8 @@
 class Stage {
   public:
     Stage();
+    /// With a snapshot that has been published.
+    explicit Stage(nurva::EstadoParaWidgets estado);
     ~Stage();
     Stage(const Stage&) = delete;
     Stage& operator=(const Stage&) = delete;
@@ -81,4 +83,14 @@ struct Viewer {
     std::vector<std::uint32_t> pixels;
     canvas::PixelSize size;
     std::unique_ptr<widgethost::Display> display;
+};
+
+/// A widget host with one card under the first snapshot of the demo host application. Its first
+/// picture is there; throws where none comes.
+struct OneCard {
+    explicit OneCard(std::string kind, const widgethost::SessionOptions& options = realExtension());
+
+    Stage stage{music()};
+    widgethost::Session session;
+    Viewer viewer;
 };

@@ -30,9 +30,7 @@ nurva::EstadoParaWidgets unbearable() {
 /// Ten times what this machine takes now for a first face: nothing that works takes so long.
 std::chrono::milliseconds amplyLong() {
     const auto start = std::chrono::steady_clock::now();
-    Session session(realExtension());
-    const Viewer viewer(session, room);
-    EXPECT_TRUE(soon([&] { return viewer.shown == 1; }));
+    const OneCard card(room);
     return 10 *
            std::chrono::ceil<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start);
 }
@@ -66,73 +64,56 @@ class CountedExtension {
 };
 
 TEST(Supervision, StartsAnExtensionThatWasKilledWhenItIsNeededAgain) {
-    Stage stage;
-    stage.publish(music());
-    Session session(realExtension());
-    Viewer viewer(session, room);
-    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
+    OneCard card(room);
     const pid_t first = extensionProcess();
     ASSERT_GT(first, 0);
     signalExtension(SIGKILL);
     ASSERT_TRUE(soon([] { return extensionProcess() == 0; }));
-    EXPECT_EQ(viewer.shown, 1);
-    viewer.display->press({.identifier = "AlternarEncendido"});
-    ASSERT_TRUE(soon([&] { return viewer.shown == 2; }));
-    EXPECT_TRUE(viewer.face);
+    EXPECT_EQ(card.viewer.shown, 1);
+    card.viewer.display->press({.identifier = "AlternarEncendido"});
+    ASSERT_TRUE(soon([&] { return card.viewer.shown == 2; }));
+    EXPECT_TRUE(card.viewer.face);
     EXPECT_NE(extensionProcess(), first);
-    EXPECT_FALSE(stage.request().empty());
+    EXPECT_FALSE(card.stage.request().empty());
 }
 
 TEST(Supervision, AsksOnceMoreWhenTheExtensionIsKilledUnderARequest) {
-    Stage stage;
-    stage.publish(music());
-    Session session(realExtension());
-    Viewer viewer(session, room);
-    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
+    OneCard card(room);
     signalExtension(SIGSTOP);
-    session.reload();
+    card.session.reload();
     signalExtension(SIGKILL);
-    EXPECT_TRUE(soon([&] { return viewer.shown == 2 && viewer.face; }));
+    EXPECT_TRUE(soon([&] { return card.viewer.shown == 2 && card.viewer.face; }));
 }
 
 TEST(Supervision, PerformsAPressAgainWhoseExtensionIsKilledBeforeItDidAnything) {
-    Stage stage;
-    stage.publish(music());
-    Session session(realExtension());
-    Viewer viewer(session, room);
-    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
+    OneCard card(room);
     signalExtension(SIGSTOP);
-    viewer.display->press({.identifier = "AlternarEncendido"});
+    card.viewer.display->press({.identifier = "AlternarEncendido"});
     signalExtension(SIGKILL);
-    ASSERT_TRUE(soon([&] { return viewer.shown == 2; }));
-    EXPECT_FALSE(stage.request().empty());
+    ASSERT_TRUE(soon([&] { return card.viewer.shown == 2; }));
+    EXPECT_FALSE(card.stage.request().empty());
 }
 
 TEST(Supervision, EndsAnExtensionThatHangsAndAsksAnother) {
-    Stage stage;
-    stage.publish(music());
-    Session session({.extension = NURVA_EXTENSION, .patience = amplyLong()});
-    Viewer viewer(session, room);
-    ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
+    OneCard card(room, {.extension = NURVA_EXTENSION, .patience = amplyLong()});
     const pid_t first = extensionProcess();
     signalExtension(SIGSTOP);
-    session.reload();
-    ASSERT_TRUE(soon([&] { return viewer.shown == 2; }));
-    EXPECT_TRUE(viewer.face);
+    card.session.reload();
+    ASSERT_TRUE(soon([&] { return card.viewer.shown == 2; }));
+    EXPECT_TRUE(card.viewer.face);
     const pid_t second = extensionProcess();
     EXPECT_NE(second, first);
     signalExtension(SIGSTOP);
-    viewer.display->press({.identifier = "AlternarEncendido"});
+    card.viewer.display->press({.identifier = "AlternarEncendido"});
     ASSERT_TRUE(soon([&] { return extensionProcess() != second; }));
-    session.reload();
-    ASSERT_TRUE(soon([&] { return viewer.shown == 3; }));
-    EXPECT_TRUE(viewer.face);
-    EXPECT_TRUE(stage.request().empty()) << "what hung once would do so again";
+    card.session.reload();
+    ASSERT_TRUE(soon([&] { return card.viewer.shown == 3; }));
+    EXPECT_TRUE(card.viewer.face);
+    EXPECT_TRUE(card.stage.request().empty()) << "what hung once would do so again";
 }
 
 TEST(Supervision, ShowsTheStoppedCardOnlyWhereTheExtensionStops) {
-    Stage stage;
-    stage.publish(music());
+    Stage stage(music());
     Session session(realExtension());
     Viewer culprit(session, volume);
     Viewer other(session, room);
@@ -144,8 +125,7 @@ TEST(Supervision, ShowsTheStoppedCardOnlyWhereTheExtensionStops) {
 }
 
 TEST(Supervision, HealsWithAGoodSnapshot) {
-    Stage stage;
-    stage.publish(unbearable());
+    Stage stage(unbearable());
     Session session(realExtension());
     Viewer viewer(session, volume);
     ASSERT_TRUE(soon([&] { return viewer.shown == 1; }));
@@ -155,8 +135,7 @@ TEST(Supervision, HealsWithAGoodSnapshot) {
 }
 
 TEST(Supervision, DoesNotStartOverAndOver) {
-    Stage stage;
-    stage.publish(unbearable());
+    Stage stage(unbearable());
     const CountedExtension extension("exec '" NURVA_EXTENSION "'");
     Session session({.extension = extension.program(), .patience = support::patience});
     const Viewer viewer(session, volume);
@@ -173,17 +152,13 @@ TEST(Supervision, DoesNotStartOverAndOver) {
 }
 
 TEST(Supervision, EndsAnExtensionThatNobodyNeedsAndStartsItAgainForAPress) {
-    Stage stage;
-    stage.publish(music());
-    Session session({.extension = NURVA_EXTENSION, .rest = amplyLong()});
-    Viewer viewer(session, room);
-    ASSERT_TRUE(soon([&] { return viewer.face.has_value(); }));
+    OneCard card(room, {.extension = NURVA_EXTENSION, .rest = amplyLong()});
     ASSERT_TRUE(soon([] { return extensionProcess() == 0; }));
-    EXPECT_EQ(viewer.shown, 1);
-    viewer.display->press({.identifier = "AlternarEncendido"});
-    ASSERT_TRUE(soon([&] { return viewer.shown == 2; }));
-    EXPECT_TRUE(viewer.face);
-    EXPECT_FALSE(stage.request().empty());
+    EXPECT_EQ(card.viewer.shown, 1);
+    card.viewer.display->press({.identifier = "AlternarEncendido"});
+    ASSERT_TRUE(soon([&] { return card.viewer.shown == 2; }));
+    EXPECT_TRUE(card.viewer.face);
+    EXPECT_FALSE(card.stage.request().empty());
 }
 
 TEST(Supervision, SaysThatAnExtensionCannotBeStarted) {
