@@ -29,9 +29,9 @@ Session::Contents::Contents(const SessionOptions& options)
                    .onStopped = [this](Ending ending) { stopped(ending); },
                    .onMayStart = [this] { goOn(); },
                    .onPost = [this](const std::string& name) { post(name); }}),
-      watches_(watchContainers(
-          foundation::Bundle::main(),
-          {.onFile = [this] { pacing.ask({}); }, .onFolder = [this] { restart(); }})) {
+      watches_(
+          watchContainers(foundation::Bundle::main(),
+                          {.onFile = [this] { changed(); }, .onFolder = [this] { restart(); }})) {
     if (!options.isAlone)
         center_.emplace([this](const std::string& kind) { pacing.ask(kind); });
     supervisor_.link();
@@ -222,15 +222,13 @@ CardState* Session::Contents::card(Slot slot) {
 
 void Session::Contents::askWhoIsDue() {
     const foundation::Date now = clock_.now();
-    std::vector<Slot> due;
     for (auto& [slot, card] : cards_)
         if (card.reloadAfter && *card.reloadAfter <= now) {
             card.reloadAfter.reset();
-            due.push_back(slot);
+            enqueue(slot);
         }
     setTimer();
-    for (const Slot slot : due)
-        want(slot);
+    askNext();
 }
 
 void Session::Contents::setTimer() {
@@ -247,13 +245,18 @@ void Session::Contents::post(const std::string& name) {
         center_->post(name);
 }
 
+void Session::Contents::changed() {
+    supervisor_.changed();
+    pacing.ask({});
+}
+
 void Session::Contents::restart() {
     // What a process may reach is settled when it starts. What this one was asked the next one is.
     supervisor_.end();
     presses_.ended(Ending::fromOutside);
     if (const auto slot = std::exchange(asked_, std::nullopt); slot && card(*slot))
         waiting_.push_front(*slot);
-    pacing.ask({});
+    changed();
     goOn();
 }
 

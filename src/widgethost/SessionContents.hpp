@@ -53,6 +53,7 @@ struct Session::Contents {
     void setTimer();
 
     void post(const std::string& name);
+    void changed();
     void restart();
 
     std::map<Slot, CardState> cards_;

@@ -3,6 +3,7 @@
 #include "platform/foundation/Message.hpp"
 
 #include <algorithm>
+#include <chrono>
 #include <iostream>
 #include <system_error>
 #include <utility>
@@ -21,10 +22,11 @@ ExtensionLink* Supervisor::link() {
         stopped();
     if (link_)
         return link_.get();
-    if (earliestStart() > Instant::clock::now()) {
-        postpone();
+    if (limit_.earliest() > Instant::clock::now()) {
+        postponeTo(limit_.earliest());
         return nullptr;
     }
+    limit_.started();
     try {
         link_ = std::make_unique<ExtensionLink>(
             options_, LinkEvents{.onPost = events_.onPost, .onClosed = [this] { stopped(); }});
@@ -33,7 +35,7 @@ ExtensionLink* Supervisor::link() {
                   << message("no se puede arrancar la extensión: %@", {std::string(error.what())})
                   << std::endl;
         blame(Ending::byItself);
-        postpone();
+        postponeTo(std::max(limit_.earliest(), Instant::clock::now() + std::chrono::seconds(1)));
         return nullptr;
     }
     ++number_;
@@ -42,11 +44,8 @@ ExtensionLink* Supervisor::link() {
 }
 
 void Supervisor::blame(Ending ending) {
-    (ending == Ending::fromOutside ? kills_ : stops_).happens(Instant::clock::now());
-}
-
-Instant Supervisor::earliestStart() const {
-    return std::max(stops_.earliest(), kills_.earliest());
+    const Instant now = Instant::clock::now();
+    ending == Ending::fromOutside ? limit_.killed(now) : limit_.stopped(now);
 }
 
 void Supervisor::stopped() {
@@ -54,14 +53,12 @@ void Supervisor::stopped() {
     events_.onStopped(link->end());
 }
 
-void Supervisor::postpone() {
-    const auto wait = std::chrono::ceil<std::chrono::milliseconds>(std::max(
-        earliestStart() - Instant::clock::now(), Instant::duration(std::chrono::seconds(1))));
-    if (!postponed_)
-        postponed_ = after(wait, [this] {
-            postponed_.reset();
-            events_.onMayStart();
-        });
+void Supervisor::postponeTo(Instant when) {
+    const auto wait = std::chrono::ceil<std::chrono::milliseconds>(when - Instant::clock::now());
+    postponed_ = after(wait, [this] {
+        postponed_.reset();
+        events_.onMayStart();
+    });
 }
 
 }  // namespace widgethost

@@ -2,7 +2,7 @@
 
 #include "widgethost/ExtensionLink.hpp"
 #include "widgethost/MainLoop.hpp"
-#include "widgethost/RateLimit.hpp"
+#include "widgethost/RestartLimit.hpp"
 #include "widgethost/Session.hpp"
 
 #include <cstdint>
@@ -37,18 +37,19 @@ class Supervisor {
     /// Counts a stop while it was needed.
     void blame(Ending ending);
 
+    /// What it shows has changed, so that a start may help where the ones before did not.
+    void changed() { limit_.changed(Instant::clock::now()); }
+
     /// Another number for each process.
     std::uint64_t number() const { return number_; }
 
   private:
-    Instant earliestStart() const;
     void stopped();
-    void postpone();
+    void postponeTo(Instant when);
 
     SessionOptions options_;
     Events events_;
-    RateLimit stops_{5, std::chrono::seconds(10)};
-    RateLimit kills_{60, std::chrono::seconds(10)};  // for which the extension is not to blame
+    RestartLimit limit_;
     std::unique_ptr<ExtensionLink> link_;
     std::uint64_t number_ = 0;
     Source postponed_;

@@ -55,6 +55,10 @@ class CountedExtension {
     std::ptrdiff_t mostStarts() const {
         return 5 * ((std::chrono::steady_clock::now() - first_) / 10s + 1) + 1;
     }
+    /// How often besides for snapshots that stood, since a busy machine published no other.
+    std::ptrdiff_t mostStartsForSnapshots() const {
+        return (std::chrono::steady_clock::now() - first_) / 500ms;
+    }
 
   private:
     support::TemporaryFolder folder_;
@@ -134,6 +138,27 @@ TEST(Supervision, HealsWithAGoodSnapshot) {
     EXPECT_TRUE(soon([&] { return viewer.face.has_value(); }));
 }
 
+TEST(Supervision, HealsWithAGoodSnapshotHoweverOftenItHasStoppedBefore) {
+    Stage stage(unbearable());
+    const auto end = std::chrono::steady_clock::now() + support::patience;
+    bool heals = false;
+    // A busy machine may take the ten seconds after which it is started anyway.
+    while (!heals && std::chrono::steady_clock::now() < end) {
+        const auto begin = std::chrono::steady_clock::now();
+        const CountedExtension extension("exec '" NURVA_EXTENSION "'");
+        Session session({.extension = extension.program(), .patience = support::patience});
+        const Viewer viewer(session, volume);
+        ASSERT_TRUE(soon([&] {
+            stage.publish(unbearable());
+            return extension.starts() >= 5 && extensionProcess() == 0;
+        }));
+        stage.publish(music());
+        ASSERT_TRUE(soon([&] { return viewer.face.has_value(); }));
+        heals = std::chrono::steady_clock::now() - begin < 10s;
+    }
+    EXPECT_TRUE(heals);
+}
+
 TEST(Supervision, DoesNotStartOverAndOver) {
     Stage stage(unbearable());
     const CountedExtension extension("exec '" NURVA_EXTENSION "'");
@@ -147,7 +172,7 @@ TEST(Supervision, DoesNotStartOverAndOver) {
         stage.publish(unbearable());
         letPass(5ms);
     }
-    EXPECT_LE(extension.starts(), extension.mostStarts());
+    EXPECT_LE(extension.starts(), extension.mostStarts() + extension.mostStartsForSnapshots());
     EXPECT_TRUE(viewer.faces.empty());
 }
 
