@@ -2,9 +2,7 @@
 
 #include "anfitrion/Aplicar.hpp"
 #include "estado/CargarEstado.hpp"
-#include "peticiones/Pedir.hpp"
 #include "platform/foundation/FileError.hpp"
-#include "platform/foundation/json/JSONDecoder.hpp"
 #include "platform/foundation/json/JSONEncoder.hpp"
 #include "platform/widgets/WidgetCenter.hpp"
 
@@ -51,21 +49,16 @@ Anfitrion::Anfitrion(Escena escena,
     publicar();
 }
 
-void Anfitrion::atenderPeticion() {
-    const std::filesystem::path archivo = contenedor_ / nurva::GrupoDeApps::archivoDePeticion;
-    try {
-        const std::string datos = entorno_.fileManager.contents(archivo);
-        const auto peticion = foundation::JSONDecoder().decode<Peticion>(datos);
-        const Rechazo rechazo = aplicar(peticion, estado_);
-        if (rechazo == Rechazo::ninguno)
-            publicar();
-        else
-            aviso_(motivo(rechazo), {datos});
-    } catch (const foundation::FileError& error) {
-        aviso_("no se puede leer la petición: %@", {std::string(error.what())});
-    } catch (const foundation::DecodingError& error) {
-        aviso_("rechazada (%@): %@", {std::string(name(error.kind)), error.debugDescription});
-    }
+void Anfitrion::atender(const Peticion& peticion) {
+    const Rechazo rechazo = aplicar(peticion, estado_);
+    if (rechazo == Rechazo::ninguno)
+        publicar();
+    else
+        aviso_(motivo(rechazo), {foundation::JSONEncoder().encode(peticion)});
+}
+
+void Anfitrion::rechazar(const std::string& porQue) const {
+    aviso_("no se puede leer la petición: %@", {porQue});
 }
 
 void Anfitrion::seguir() {

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "anfitrion/Escena.hpp"
+#include "peticiones/Peticion.hpp"
 #include "platform/foundation/Environment.hpp"
 #include "platform/foundation/FormatArgument.hpp"
 
 #include <filesystem>
 #include <functional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -25,8 +27,11 @@ class Anfitrion {
               const foundation::Environment& entorno,
               Aviso aviso);
 
-    /// Reads the request that waits, does it or refuses it, and publishes what came of it.
-    void atenderPeticion();
+    /// Does what is asked and publishes what came of it, or says why not.
+    void atender(const nurva::GrupoDeApps::Peticion& peticion);
+
+    /// Says why something is no request.
+    void rechazar(const std::string& porQue) const;
 
     /// Plays the steps whose time has come, and publishes again what is about to be too old.
     void seguir();

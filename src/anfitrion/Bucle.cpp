@@ -1,8 +1,7 @@
 #include "anfitrion/Bucle.hpp"
 
-#include "peticiones/Pedir.hpp"
+#include "enlace/Buzon.hpp"
 #include "platform/foundation/FileDescriptor.hpp"
-#include "platform/foundation/NotificationObserver.hpp"
 
 #include <poll.h>
 #include <signal.h>
@@ -12,6 +11,7 @@
 #include <cerrno>
 #include <cmath>
 #include <optional>
+#include <string>
 #include <system_error>
 #include <utility>
 
@@ -41,15 +41,15 @@ void representar(Escena escena,
                  const Aviso& aviso) {
     const foundation::FileDescriptor fin = avisoDeFin();
     std::optional<Anfitrion> anfitrion;
-    foundation::NotificationObserver oyente(nurva::GrupoDeApps::nombreDeNotificacion(), [&] {
-        if (anfitrion)
-            anfitrion->atenderPeticion();
-    });
+    nurva::Buzon buzon(
+        contenedor,
+        [&](const nurva::GrupoDeApps::Peticion& peticion) { anfitrion->atender(peticion); },
+        [&](const std::string& porQue) { anfitrion->rechazar(porQue); });
     anfitrion.emplace(std::move(escena), contenedor, entorno, aviso);
-    while (oyente.process()) {
+    while (buzon.atender()) {
         anfitrion->seguir();
         std::array<pollfd, 2> listos{pollfd{fin.number(), POLLIN, 0},
-                                     pollfd{oyente.descriptor(), oyente.events(), 0}};
+                                     pollfd{buzon.descriptor(), buzon.eventos(), 0}};
         const double milisegundos = std::ceil(anfitrion->segundosHastaSeguir() * 1000);
         if (::poll(listos.data(), listos.size(), static_cast<int>(milisegundos)) < 0 &&
             errno != EINTR)

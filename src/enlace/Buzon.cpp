@@ -7,6 +7,7 @@
 #include "platform/foundation/ReadFile.hpp"
 #include "platform/foundation/json/JSONDecoder.hpp"
 
+#include <exception>
 #include <optional>
 #include <string>
 #include <utility>
@@ -19,9 +20,10 @@ using GrupoDeApps::Peticion;
 /// A notification says that something waits, not what: two of them may stand for one request, and
 /// one for the request before where the writing failed. So what counts is whether the file is new.
 struct Buzon::Lector {
-    Lector(const std::filesystem::path& contenedor, AlLlegar suAlLlegar)
+    Lector(const std::filesystem::path& contenedor, AlLlegar suAlLlegar, AlRechazar suAlRechazar)
         : archivo(contenedor / GrupoDeApps::archivoDePeticion),
           alLlegar(std::move(suAlLlegar)),
+          alRechazar(std::move(suAlRechazar)),
           leido(FileIdentity::of(archivo)),
           oyente(GrupoDeApps::nombreDeNotificacion(), [this] { entregar(); }) {}
 
@@ -35,11 +37,17 @@ struct Buzon::Lector {
             const auto datos = datosNuevos();
             return datos ? std::optional(foundation::JSONDecoder().decode<Peticion>(*datos))
                          : std::nullopt;
-        } catch (const foundation::FileError&) {
-            return std::nullopt;
-        } catch (const foundation::DecodingError&) {
-            return std::nullopt;
+        } catch (const foundation::FileError& error) {
+            return rechazada(error);
+        } catch (const foundation::DecodingError& error) {
+            return rechazada(error);
         }
+    }
+
+    std::nullopt_t rechazada(const std::exception& error) const {
+        if (alRechazar)
+            alRechazar(error.what());
+        return std::nullopt;
     }
 
     /// What the file holds, if it is not the one read last. Read again where it was replaced
@@ -56,12 +64,13 @@ struct Buzon::Lector {
 
     std::filesystem::path archivo;
     AlLlegar alLlegar;
+    AlRechazar alRechazar;
     std::optional<FileIdentity> leido;
     foundation::NotificationObserver oyente;
 };
 
-Buzon::Buzon(const std::filesystem::path& contenedor, AlLlegar alLlegar)
-    : lector_(std::make_unique<Lector>(contenedor, std::move(alLlegar))) {}
+Buzon::Buzon(const std::filesystem::path& contenedor, AlLlegar alLlegar, AlRechazar alRechazar)
+    : lector_(std::make_unique<Lector>(contenedor, std::move(alLlegar), std::move(alRechazar))) {}
 
 Buzon::~Buzon() = default;
 

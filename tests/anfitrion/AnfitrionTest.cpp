@@ -1,6 +1,5 @@
 #include "anfitrion/Anfitrion.hpp"
 #include "estado/CargarEstado.hpp"
-#include "peticiones/Pedir.hpp"
 #include "support/World.hpp"
 
 #include <gtest/gtest.h>
@@ -10,7 +9,6 @@
 namespace anfitrion {
 namespace {
 
-using nurva::GrupoDeApps::pedir;
 using nurva::GrupoDeApps::Peticion;
 
 /// A clock that the test moves.
@@ -45,46 +43,30 @@ TEST_F(AnfitrionTest, PublishesItsSceneAtOnce) {
 TEST_F(AnfitrionTest, DoesWhatAWidgetAsksFor) {
     Anfitrion anfitrion = abrir();
     reloj.ahora = support::noon.addingTimeInterval(5);
-    pedir(Peticion::volumen("org.ejemplo.navegador", 0.55), entorno);
-    anfitrion.atenderPeticion();
+    anfitrion.atender(Peticion::volumen("org.ejemplo.navegador", 0.55));
     EXPECT_EQ(publicado().apps.at(1).nivel, 0.55);
     EXPECT_EQ(publicado().cuando, reloj.ahora);
     EXPECT_TRUE(avisos.empty());
 }
 
-TEST_F(AnfitrionTest, SaysWhyItRefuses) {
-    Anfitrion anfitrion = abrir();
-    pedir(Peticion::volumen("nadie", 0.5), entorno);
-    anfitrion.atenderPeticion();
-    for (const char* malo : {"", "{", "[]", "{}", R"({"volumen":{"app":1}})"}) {
-        mundo.files.files["/contenedor/peticion.json"] = malo;
-        anfitrion.atenderPeticion();
-    }
-    mundo.files.files.erase("/contenedor/peticion.json");
-    anfitrion.atenderPeticion();
-    EXPECT_EQ(avisos.size(), 7u);
-    EXPECT_EQ(avisos.front(), "rechazada: no hay ninguna app con ese id: %@");
-    EXPECT_EQ(avisos.back(), "no se puede leer la petición: %@");
-    EXPECT_EQ(publicado().cuando, support::noon);
-}
-
 TEST_F(AnfitrionTest, HasAReasonForEveryRefusal) {
     Anfitrion anfitrion = abrir();
+    reloj.ahora = support::noon.addingTimeInterval(5);
     for (const Peticion& peticion :
          {Peticion::silenciar("nadie", true), Peticion::ponerPerfil("ninguno"),
-          Peticion::volumen("org.ejemplo.navegador", 1.5)}) {
-        pedir(peticion, entorno);
-        anfitrion.atenderPeticion();
-    }
+          Peticion::volumen("org.ejemplo.navegador", 1.5)})
+        anfitrion.atender(peticion);
+    anfitrion.rechazar("no es JSON");
+    EXPECT_EQ(publicado().cuando, support::noon);
     Escena soloMirar = escenas().front();
     soloMirar.inicial.dejaCambiar = false;
     Anfitrion cerrado = abrir(soloMirar);
-    pedir(Peticion::alternarEncendido(), entorno);
-    cerrado.atenderPeticion();
+    cerrado.atender(Peticion::alternarEncendido());
     EXPECT_EQ(avisos, (std::vector<std::string>{
                           "rechazada: no hay ninguna app con ese id: %@",
                           "rechazada: no hay ningún perfil con ese id: %@",
                           "rechazada: el nivel va de 0 a 1: %@",
+                          "no se puede leer la petición: %@",
                           "rechazada: los widgets no pueden cambiar nada: %@",
                       }));
 }

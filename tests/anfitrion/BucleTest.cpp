@@ -95,6 +95,19 @@ TEST_F(BucleTest, HearsWhoeverSeesItsFirstSnapshotUntilItIsAskedToEnd) {
     }
 }
 
+TEST_F(BucleTest, DoesNothingTwiceThatItIsToldOfTwice) {
+    std::future<void> fin = empezar(escenaQuieta());
+    EXPECT_TRUE(pronto([&] { return perfil() == escenaQuieta().inicial.perfil; }));
+    pedir(Peticion::alternarEncendido(), entorno);
+    EXPECT_TRUE(pronto([&] { return !prendido(); }));
+    avisos.post(nurva::GrupoDeApps::nombreDeNotificacion());
+    pedir(Peticion::ponerPerfil("cine"), entorno);
+    EXPECT_TRUE(pronto([&] { return perfil() == "Cine"; }));
+    EXPECT_FALSE(prendido());
+    terminar(SIGTERM);
+    EXPECT_NO_THROW(fin.get());
+}
+
 TEST_F(BucleTest, GoesOnWithTheSceneThoughNobodyAsksForAnything) {
     Escena escena = escenaQuieta();
     escena.pasos = {{0.05, [](auto& estado) { estado.perfil += "+"; }}};

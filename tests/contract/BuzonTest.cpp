@@ -88,6 +88,21 @@ TEST_F(BuzonTest, PassesOverWhatIsNoRequest) {
     EXPECT_EQ(llegadas, Llegadas{Peticion::alternarEncendido()});
 }
 
+TEST_F(BuzonTest, SaysWhyWhereItIsAsked) {
+    std::vector<std::string> motivos;
+    Buzon curioso(
+        container(), [](const Peticion&) { ADD_FAILURE(); },
+        [&](const std::string& porQue) { motivos.push_back(porQue); });
+    EXPECT_TRUE(curioso.atender());
+    escribir("{}");
+    for (int aviso = 0; aviso < 2; ++aviso) {
+        avisar();
+        EXPECT_TRUE(atender(curioso));
+    }
+    EXPECT_EQ(motivos.size(), 1u) << "once for each file";
+    EXPECT_FALSE(motivos.front().empty());
+}
+
 TEST_F(BuzonTest, LetsTheFaultsOfItsOwnerThrough) {
     Buzon fallido(container(), [](const Peticion&) { throw std::runtime_error("a full disk"); });
     EXPECT_TRUE(fallido.atender());
