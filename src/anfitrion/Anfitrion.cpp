@@ -80,7 +80,8 @@ double Anfitrion::segundosHastaSeguir() const {
     if (!pasos_.empty())
         espera =
             std::min(espera, pasos_[siguiente_].segundos - ahora.timeIntervalSince(ultimoPaso_));
-    return std::max(espera, 0.0);
+    // Where the clock was set back, what is written may be dated far ahead.
+    return std::clamp(espera, 0.0, segundosEntrePublicaciones);
 }
 
 void Anfitrion::publicar() {

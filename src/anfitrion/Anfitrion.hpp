@@ -36,7 +36,7 @@ class Anfitrion {
     /// Plays the steps whose time has come, and publishes again what is about to be too old.
     void seguir();
 
-    /// Seconds until `seguir` has something to do.
+    /// Seconds until `seguir` has something to do, some minutes at most.
     double segundosHastaSeguir() const;
 
   private:

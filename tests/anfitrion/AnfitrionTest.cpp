@@ -83,6 +83,16 @@ TEST_F(AnfitrionTest, NeverLetsItsSnapshotGrowOld) {
     }
 }
 
+TEST_F(AnfitrionTest, IsNotPutOffByAClockThatIsSetBack) {
+    Anfitrion anfitrion = abrir();
+    for (const double segundos : {-1.0, -3600.0, -1e7, -1e12}) {
+        reloj.ahora = support::noon.addingTimeInterval(segundos);
+        anfitrion.seguir();
+        EXPECT_GE(anfitrion.segundosHastaSeguir(), 0);
+        EXPECT_LE(anfitrion.segundosHastaSeguir(), 300);
+    }
+}
+
 TEST_F(AnfitrionTest, PlaysItsStepsOverAndOver) {
     Escena escena = escenas().front();
     escena.pasos = {{10, [](auto& e) { e.perfil = "A"; }}, {5, [](auto& e) { e.perfil = "B"; }}};
