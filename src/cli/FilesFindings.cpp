@@ -18,10 +18,11 @@ using enum Finding::Kind;
 
 Finding snapshotFinding(const foundation::Environment& environment,
                         const std::filesystem::path& file) {
-    if (const auto reason = whyNoSnapshot(environment))
-        return {lacks, *reason, message("abre Nurva, o revisa el archivo con nurva check")};
-    const double age =
-        environment.clock.now().timeIntervalSince(nurva::cargarEstado(environment)->cuando);
+    const auto report = reportOn<nurva::EstadoParaWidgets>(environment.fileManager, file);
+    if (report.refusal)
+        return {lacks, text(file.string(), *report.refusal),
+                message("abre Nurva, o revisa el archivo con nurva check")};
+    const double age = environment.clock.now().timeIntervalSince(report.value->cuando);
     const auto seconds = static_cast<std::int64_t>(std::clamp(std::round(age), -1e12, 1e12));
     if (age < nurva::segundosDeVigencia)
         return {holds, message("estado: %@, de hace %lld segundos", {file.string(), seconds})};

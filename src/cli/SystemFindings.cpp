@@ -12,6 +12,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <system_error>
 
 namespace cli {
 
@@ -60,12 +61,20 @@ std::vector<Finding> extensionFindings() {
     if (!program)
         return {{lacks, message("no está la extensión (nurva-widgets-extension)"),
                  message("instala NurvaWidgets de nuevo")}};
-    widgethost::Session session({.extension = *program, .isAlone = true});
-    if (!answers(session))
-        return {{lacks, message("la extensión no arranca o no contesta: %@", {program->string()}),
-                 message("mira lo que ha escrito más arriba")}};
-    const auto count = static_cast<std::int64_t>(session.gallery().size());
-    return {{holds, message("extensión: %@, con %lld widgets", {program->string(), count}), {}}};
+    try {
+        widgethost::Session session({.extension = *program, .isAlone = true});
+        if (!answers(session))
+            return {{lacks,
+                     message("la extensión no arranca o no contesta: %@", {program->string()}),
+                     message("mira lo que ha escrito más arriba")}};
+        const auto count = static_cast<std::int64_t>(session.gallery().size());
+        return {
+            {holds, message("extensión: %@, con %lld widgets", {program->string(), count}), {}}};
+    } catch (const std::system_error& error) {
+        return {{lacks,
+                 message("no se puede arrancar la extensión: %@", {std::string(error.what())}),
+                 {}}};
+    }
 }
 
 std::vector<Finding> sandboxFindings() {

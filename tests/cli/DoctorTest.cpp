@@ -69,6 +69,18 @@ TEST_F(Doctor, SeesABundleThatIsNotThereOrNotEntitled) {
     EXPECT_TRUE(says(examine("NURVA_BUNDLE='" + other.string() + "'"), "no tiene permiso"));
 }
 
+TEST_F(Doctor, SaysThatTheSystemHasNoWatchLeftForAFolder) {
+    if (support::run("unshare --map-root-user true").status != 0)
+        GTEST_SKIP() << "no user of one's own, for whom there are none, can be made here";
+    const Outcome outcome = support::run(
+        "unshare --map-root-user sh -c 'echo 0 >/proc/sys/user/max_inotify_instances && "
+        "env -u LANGUAGE -u LC_ALL LANG=es_ES.UTF-8 XDG_DATA_HOME=\"" +
+        home.path().string() + "\" " NURVA_PROGRAM " doctor'");
+    EXPECT_EQ(outcome.status, 1) << outcome.errors;
+    EXPECT_TRUE(says(outcome, "✗ no se puede arrancar la extensión: inotify")) << outcome.output;
+    EXPECT_TRUE(says(outcome, "aislamiento")) << "and goes on";
+}
+
 TEST_F(CommandLine, LooksForABusEvenWhereThereIsNone) {
     const Outcome outcome = support::run(
         "env -u DBUS_SESSION_BUS_ADDRESS XDG_RUNTIME_DIR=/nowhere LANG=es_ES.UTF-8 "
