@@ -60,12 +60,12 @@ Options Options::of(int argumentCount, char** arguments) {
         g_error_free(error);
         throw std::invalid_argument(message("un valor de la orden no sirve: %@", {detail}));
     }
+    const std::unique_ptr<char, decltype(&g_free)> path(extension, g_free);
     if (argumentCount > 1)
         throw std::invalid_argument(
             message("sobra algo en la orden: %@", {std::string(arguments[1])}));
     if (scale != notGiven && !(scale >= smallestScale && scale <= largestScale))
         throw std::invalid_argument(message("la escala va de 0.5 a 8"));
-    const std::unique_ptr<char, decltype(&g_free)> path(extension, g_free);
     Options options{.windows = windows != FALSE, .gallery = gallery != FALSE};
     if (scale != notGiven)
         options.scale = scale;
