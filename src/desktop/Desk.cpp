@@ -31,12 +31,12 @@ Desk::Desk(Surroundings surroundings,
       mount_(mount),
       file_(std::move(file)),
       unitsPerPoint_(unitsPerPoint(surroundings_.display, surroundings_.scale)),
-      monitors_(surroundings_.display, mount_, [this] { later_.run([this] { arrange(); }); }),
+      monitors_(surroundings_.display, mount_, [this] { later_.run([this] { adapt(); }); }),
       resolutionChanges_(
           gtk_settings_get_for_display(surroundings_.display),
           connect<void(GParamSpec*)>(gtk_settings_get_for_display(surroundings_.display),
                                      "notify::gtk-xft-dpi",
-                                     [this](GParamSpec*) { later_.run([this] { rescale(); }); })) {}
+                                     [this](GParamSpec*) { later_.run([this] { adapt(); }); })) {}
 
 Desk::~Desk() {
     if (patience_ != 0)
@@ -224,10 +224,12 @@ void Desk::updateGallery() {
     gallery_->showPlaced(names);
 }
 
-void Desk::rescale() {
-    unitsPerPoint_ = unitsPerPoint(surroundings_.display, surroundings_.scale);
-    for (const auto& card : cards_)
-        card->setUnitsPerPoint(unitsPerPoint_);
+/// Takes the screens as they are now, and the scale that they ask for.
+void Desk::adapt() {
+    const double units = unitsPerPoint(surroundings_.display, surroundings_.scale);
+    if (std::exchange(unitsPerPoint_, units) != units)
+        for (const auto& card : cards_)
+            card->setUnitsPerPoint(units);
     arrange();
 }
 

@@ -63,7 +63,7 @@ class Desk {
     void arrange();
     void remember();
     void updateGallery();
-    void rescale();
+    void adapt();
     void explainWindows();
 
     Screens screens() const;

@@ -16,6 +16,12 @@
 #include <utility>
 #include <vector>
 
+// After the others: its macros are common words.
+// clang-format off
+#include <gdk/x11/gdkx.h>
+
+// clang-format on
+
 namespace desktop {
 namespace {
 
@@ -31,7 +37,7 @@ struct DeskOnScreen : testing::Test {
     void open() {
         screen::movePointer(1279, 799);
         desk.emplace(Desk::Surroundings{.display = gdk_display_get_default(),
-                                        .scale = std::nullopt,
+                                        .scale = scale,
                                         .onEmpty = [this] { isEmpty = true; },
                                         .patience = std::chrono::milliseconds(50)},
                      source, mount, file());
@@ -84,6 +90,7 @@ struct DeskOnScreen : testing::Test {
     std::vector<std::string> reports;
     PaintedWidgets source;
     X11Mount mount{gdk_display_get_default()};
+    std::optional<double> scale;
     bool isEmpty = false;
     std::optional<Desk> desk;
 };
@@ -118,6 +125,21 @@ TEST_F(DeskOnScreen, WidgetsStandWhereTheyStoodBeforeTheGalleryIsKnown) {
     EXPECT_TRUE(standsAt(1, {0, 0}));
     EXPECT_EQ(gtk_widget_get_width(GTK_WIDGET(window(0))), 364);
     EXPECT_EQ(gtk_widget_get_width(GTK_WIDGET(window(1))), 170);
+}
+
+TEST_F(DeskOnScreen, AWantedScaleIsKeptWhereTheScreensBecomeOthers) {
+    remember({{"a", {0, 0}}});
+    scale = 2;
+    open();
+    const auto takes = [&](int units) {
+        return screen::waitFor(
+            [&] { return gtk_widget_get_width(GTK_WIDGET(window(0))) == units; });
+    };
+    EXPECT_TRUE(takes(340));
+    gdk_x11_display_set_surface_scale(gdk_display_get_default(), 2);
+    EXPECT_TRUE(takes(170));
+    gdk_x11_display_set_surface_scale(gdk_display_get_default(), 1);
+    EXPECT_TRUE(takes(340));
 }
 
 TEST_F(DeskOnScreen, AWidgetDraggedByItsBackgroundSnapsToTheGrid) {
