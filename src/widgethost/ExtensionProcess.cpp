@@ -112,7 +112,11 @@ bool ExtensionProcess::hasEnded() const {
 
 bool ExtensionProcess::endsWithin(int milliseconds) const {
     pollfd ended{.fd = process_.number(), .events = POLLIN, .revents = 0};
-    return ::poll(&ended, 1, milliseconds) == 1;
+    int count = 0;
+    do
+        count = ::poll(&ended, 1, milliseconds);
+    while (count < 0 && errno == EINTR);
+    return count == 1;
 }
 
 }  // namespace widgethost
