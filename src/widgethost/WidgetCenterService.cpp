@@ -67,6 +67,9 @@ int WidgetCenterService::called(sd_bus_message* call, void* data, sd_bus_error* 
 }
 
 int WidgetCenterService::named(sd_bus_message* answer, void* data, sd_bus_error*) {
+    // A connection that is gone answers itself; of that its owner is told in another way.
+    if (sd_bus_message_is_method_error(answer, nullptr) > 0)
+        return 1;
     constexpr std::uint32_t isOurs = 1;
     std::uint32_t verdict = 0;
     if (sd_bus_message_read(answer, "u", &verdict) <= 0 || verdict != isOurs)

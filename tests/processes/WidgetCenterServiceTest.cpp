@@ -42,4 +42,28 @@ TEST(WidgetCenterService, KeepsTheConnectionThatANotificationHasOpened) {
     EXPECT_EQ(owner(), first);
 }
 
+TEST(WidgetCenterService, TellsOfNoOtherWidgetHostWhereOnlyTheBusIsGone) {
+    Stage stage;
+    testing::internal::CaptureStderr();
+    const widgethost::WidgetCenterService service([](const std::string&) {});
+    stage.bus().end();
+    letPass(100ms);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST(WidgetCenterService, TellsOfAnotherWidgetHost) {
+    const Stage stage;
+    const widgethost::WidgetCenterService first([](const std::string&) {});
+    ASSERT_TRUE(soon([] { return !owner().empty(); }));
+    testing::internal::CaptureStderr();
+    const widgethost::WidgetCenterService second([](const std::string&) {});
+    std::string told;
+    EXPECT_TRUE(soon([&] {
+        told += testing::internal::GetCapturedStderr();
+        testing::internal::CaptureStderr();
+        return told.find("otro escritorio") != std::string::npos;
+    }));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << "and once only";
+}
+
 }  // namespace
