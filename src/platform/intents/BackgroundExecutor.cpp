@@ -6,15 +6,7 @@ namespace intents {
 
 BackgroundExecutor::BackgroundExecutor(std::size_t threadCount) {
     for (std::size_t i = 0; i < threadCount; ++i)
-        threads_.emplace_back([this] { work(); });
-}
-
-BackgroundExecutor::~BackgroundExecutor() {
-    {
-        const std::lock_guard lock(mutex_);
-        isEnding_ = true;
-    }
-    changed_.notify_all();
+        threads_.emplace_back([this](const std::stop_token& end) { work(end); });
 }
 
 void BackgroundExecutor::run(std::packaged_task<void()> task) {
@@ -25,12 +17,9 @@ void BackgroundExecutor::run(std::packaged_task<void()> task) {
     changed_.notify_one();
 }
 
-void BackgroundExecutor::work() {
+void BackgroundExecutor::work(const std::stop_token& end) {
     std::unique_lock lock(mutex_);
-    while (true) {
-        changed_.wait(lock, [this] { return isEnding_ || !tasks_.empty(); });
-        if (tasks_.empty())
-            return;
+    while (changed_.wait(lock, end, [this] { return !tasks_.empty(); })) {
         std::packaged_task<void()> task = std::move(tasks_.front());
         tasks_.pop_front();
         lock.unlock();

@@ -5,6 +5,7 @@
 #include <deque>
 #include <future>
 #include <mutex>
+#include <stop_token>
 #include <thread>
 #include <vector>
 
@@ -16,20 +17,20 @@ class BackgroundExecutor {
   public:
     static constexpr std::size_t usualThreadCount = 4;
 
+    /// Throws std::system_error where the system has no room for so many threads.
     explicit BackgroundExecutor(std::size_t threadCount = usualThreadCount);
     BackgroundExecutor(const BackgroundExecutor&) = delete;
     BackgroundExecutor& operator=(const BackgroundExecutor&) = delete;
-    ~BackgroundExecutor();
 
     void run(std::packaged_task<void()> task);
 
   private:
-    void work();
+    void work(const std::stop_token& end);
 
     std::mutex mutex_;
-    std::condition_variable changed_;
+    std::condition_variable_any changed_;
     std::deque<std::packaged_task<void()>> tasks_;
-    bool isEnding_ = false;
+    // Ends first: each thread is told to, and goes once there is no task left.
     std::vector<std::jthread> threads_;
 };
 

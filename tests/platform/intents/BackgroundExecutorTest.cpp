@@ -1,11 +1,15 @@
 #include "platform/intents/BackgroundExecutor.hpp"
+#include "platform/sandbox/Sanitizers.hpp"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <unistd.h>
 
 #include <atomic>
 #include <barrier>
 #include <chrono>
 #include <future>
+#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -61,6 +65,27 @@ TEST(BackgroundExecutor, SurvivesATaskThatThrows) {
     std::promise<void> ran;
     executor.run(std::packaged_task<void()>([&] { ran.set_value(); }));
     ran.get_future().get();
+}
+
+/// Exits with 0 where an executor of more threads than the memory has stacks for says so.
+[[noreturn]] void makeTooManyThreads() {
+    constexpr unsigned generous = 120;  // seconds
+    ::alarm(generous);
+    constexpr rlim_t memory = 64 << 20;
+    const rlimit limit{.rlim_cur = memory, .rlim_max = memory};
+    ::setrlimit(RLIMIT_DATA, &limit);
+    try {
+        BackgroundExecutor executor(1000);
+    } catch (const std::system_error&) {
+        ::_exit(0);
+    }
+    ::_exit(1);
+}
+
+TEST(BackgroundExecutorDeathTest, EndsTheThreadsThereAreWhereThereIsNoRoomForAll) {
+    if (shadowsMemory)
+        GTEST_SKIP() << "The shadow of a sanitizer is far beyond any limit.";
+    EXPECT_EXIT(makeTooManyThreads(), testing::ExitedWithCode(0), "");
 }
 
 }  // namespace
