@@ -2,6 +2,7 @@
 #include "platform/foundation/StringsTable.hpp"
 #include "platform/foundation/StringsText.hpp"
 #include "platform/foundation/TextEncoding.hpp"
+#include "platform/foundation/UTF8.hpp"
 
 #include <cstddef>
 #include <cstdint>

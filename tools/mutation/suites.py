@@ -31,9 +31,10 @@ SUITES = [
                 "RecordReader.hpp",
                 "ShortNumber.hpp",
             )
-        ],
+        ]
+        + ["src/platform/foundation/UTF8.cpp"],
         [
-            ("foundation_test", "JSON*:TaggedUnion*"),
+            ("foundation_test", "JSON*:TaggedUnion*:UTF8*"),
             ("estado_test", "*"),
             ("peticiones_test", "Peticion*"),
         ],

@@ -2,6 +2,7 @@
 
 #include "platform/foundation/PropertyListLimits.hpp"
 #include "platform/foundation/TextEncoding.hpp"
+#include "platform/foundation/UTF8.hpp"
 
 #include <bit>
 #include <cstdint>

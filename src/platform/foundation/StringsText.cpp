@@ -1,6 +1,6 @@
 #include "platform/foundation/StringsText.hpp"
 
-#include "platform/foundation/TextEncoding.hpp"
+#include "platform/foundation/UTF8.hpp"
 
 #include <algorithm>
 #include <utility>

@@ -7,11 +7,6 @@
 /// Bytes of files as UTF-8 text. Any thread; never fail.
 namespace foundation {
 
-bool isUTF8(std::string_view bytes);
-
-/// Adds a character to a UTF-8 text; a number that is no character becomes U+FFFD.
-void appendUTF8(std::string& text, char32_t character);
-
 enum class ByteOrder { bigEndian, littleEndian };
 
 /// Nothing when the bytes are no whole UTF-16 text.

@@ -1,7 +1,7 @@
 #include "platform/foundation/XMLPropertyList.hpp"
 
 #include "platform/foundation/PropertyListLimits.hpp"
-#include "platform/foundation/TextEncoding.hpp"
+#include "platform/foundation/UTF8.hpp"
 
 #include <plist/plist.h>
 

@@ -1,4 +1,4 @@
-#include "platform/foundation/TextEncoding.hpp"
+#include "platform/foundation/UTF8.hpp"
 #include "platform/foundation/UnicodeText.hpp"
 #include "support/Hex.hpp"
 #include "support/SharedData.hpp"

@@ -1,5 +1,7 @@
 #include "platform/foundation/json/JSONString.hpp"
 
+#include "platform/foundation/UTF8.hpp"
+
 #include <bit>
 #include <cstdint>
 #include <cstring>
@@ -122,51 +124,7 @@ Escape readEscape(const char* at, const char* end) {
     return {second + 6, static_cast<char32_t>(0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00))};
 }
 
-void append(std::string& string, char32_t character) {
-    const auto continuation = [&](int shift) {
-        string += static_cast<char>(0x80 | ((character >> shift) & 0x3F));
-    };
-    if (character < 0x80) {
-        string += static_cast<char>(character);
-    } else if (character < 0x800) {
-        string += static_cast<char>(0xC0 | (character >> 6));
-        continuation(0);
-    } else if (character < 0x10000) {
-        string += static_cast<char>(0xE0 | (character >> 12));
-        continuation(6);
-        continuation(0);
-    } else {
-        string += static_cast<char>(0xF0 | (character >> 18));
-        continuation(12);
-        continuation(6);
-        continuation(0);
-    }
-}
-
 }  // namespace
-
-const char* endOfSequence(const char* begin, const char* end) {
-    const auto continues = [&](int i, unsigned low = 0x80, unsigned high = 0xBF) {
-        return end - begin > i && isBetween(begin[i], low, high);
-    };
-    const unsigned lead = static_cast<unsigned char>(*begin);
-    if (0xC2 <= lead && lead <= 0xDF) {
-        return continues(1) ? begin + 2 : nullptr;
-    }
-    if (0xE0 <= lead && lead <= 0xEF) {
-        // Neither longer than needed nor a surrogate.
-        const unsigned low = lead == 0xE0 ? 0xA0 : 0x80;
-        const unsigned high = lead == 0xED ? 0x9F : 0xBF;
-        return continues(1, low, high) && continues(2) ? begin + 3 : nullptr;
-    }
-    if (0xF0 <= lead && lead <= 0xF4) {
-        // Neither longer than needed nor beyond the last character.
-        const unsigned low = lead == 0xF0 ? 0x90 : 0x80;
-        const unsigned high = lead == 0xF4 ? 0x8F : 0xBF;
-        return continues(1, low, high) && continues(2) && continues(3) ? begin + 4 : nullptr;
-    }
-    return nullptr;
-}
 
 JSONStringText readStringText(const char* begin, const char* end) {
     bool hasEscapes = false;
@@ -206,7 +164,7 @@ void appendUnescaped(std::string& string, std::string_view text) {
             return;
         }
         const Escape escape = readEscape(backslash, end);
-        append(string, escape.character);
+        appendUTF8(string, escape.character);
         at = escape.end;
     }
 }

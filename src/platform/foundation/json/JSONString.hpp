@@ -22,7 +22,4 @@ void appendUnescaped(std::string& string, std::string_view text);
 /// The string whose inside is the whole of `text`. A false answer: it is malformed.
 bool readWholeString(std::string_view text, std::string& string);
 
-/// The end of the UTF-8 sequence of several bytes that begins at `begin`; null where there is none.
-const char* endOfSequence(const char* begin, const char* end);
-
 }  // namespace foundation
