@@ -1,6 +1,6 @@
 #include "platform/remote/Connection.hpp"
 
-#include "platform/remote/Wire.hpp"
+#include "platform/remote/WireParts.hpp"
 
 #include <systemd/sd-id128.h>
 

@@ -1,9 +1,10 @@
 #include "platform/remote/Wire.hpp"
 
-#include <cerrno>
-#include <cmath>
-#include <system_error>
+#include <cstdint>
+#include <string>
+#include <string_view>
 #include <utility>
+#include <variant>
 
 namespace remote {
 
@@ -18,67 +19,6 @@ std::string inside(std::string_view type) {
     return std::string(type.substr(1, type.size() - 2));
 }
 
-[[noreturn]] void refuse() {
-    throw std::system_error(EBADMSG, std::generic_category(), "message");
-}
-
-/// Opens a container for the time that `fill` takes.
-template <class Fill>
-void writing(sd_bus_message& message, char container, const std::string& contents, Fill fill) {
-    check(sd_bus_message_open_container(&message, container, contents.c_str()));
-    fill();
-    check(sd_bus_message_close_container(&message));
-}
-
-template <class Read>
-auto reading(sd_bus_message& message, char container, const std::string& contents, Read read) {
-    if (check(sd_bus_message_enter_container(&message, container, contents.c_str())) == 0)
-        refuse();
-    auto result = read();
-    check(sd_bus_message_exit_container(&message));
-    return result;
-}
-
-/// The members of an array, each as `readMember` reads it.
-template <class ReadMember>
-auto readArray(sd_bus_message& message, const char* type, ReadMember readMember) {
-    return reading(message, 'a', type, [&] {
-        std::vector<decltype(readMember())> members;
-        while (check(sd_bus_message_at_end(&message, false)) == 0)
-            members.push_back(readMember());
-        return members;
-    });
-}
-
-template <class Value>
-void writeBasic(sd_bus_message& message, char type, Value value) {
-    check(sd_bus_message_append_basic(&message, type, &value));
-}
-
-void writeTruth(sd_bus_message& message, bool value) {
-    writeBasic(message, 'b', static_cast<int>(value));
-}
-
-template <class Value>
-Value readBasic(sd_bus_message& message, char type) {
-    Value value{};
-    if (check(sd_bus_message_read_basic(&message, type, &value)) == 0)
-        refuse();
-    return value;
-}
-
-bool readTruth(sd_bus_message& message) {
-    return readBasic<int>(message, 'b') != 0;
-}
-
-/// A number that geometry and clocks can be reckoned with.
-double readFinite(sd_bus_message& message) {
-    const double value = readNumber(message);
-    if (!std::isfinite(value))
-        refuse();
-    return value;
-}
-
 void write(sd_bus_message& message, const intents::ParameterValue& value) {
     struct Writer {
         sd_bus_message& message;
@@ -89,7 +29,7 @@ void write(sd_bus_message& message, const intents::ParameterValue& value) {
             writing(message, 'v', "b", [&] { writeTruth(message, truth); });
         }
         void operator()(double number) const {
-            writing(message, 'v', "d", [&] { writeBasic(message, 'd', number); });
+            writing(message, 'v', "d", [&] { writeNumber(message, number); });
         }
     };
     std::visit(Writer{message}, value);
@@ -110,7 +50,7 @@ intents::ParameterValue readValue(sd_bus_message& message) {
 
 void write(sd_bus_message& message, const views::Rect& rect) {
     for (const double number : {rect.x, rect.y, rect.width, rect.height})
-        writeBasic(message, 'd', number);
+        writeNumber(message, number);
 }
 
 views::Rect readRect(sd_bus_message& message) {
@@ -158,32 +98,6 @@ widgets::WidgetFamily readFamily(sd_bus_message& message) {
 
 }  // namespace
 
-int check(int result) {
-    if (result < 0)
-        throw std::system_error(-result, std::generic_category(), "message");
-    return result;
-}
-
-void write(sd_bus_message& message, std::string_view text) {
-    check(sd_bus_message_append_array(&message, 'y', text.data(), text.size()));
-}
-
-std::string readText(sd_bus_message& message) {
-    const void* bytes = nullptr;
-    std::size_t size = 0;
-    if (check(sd_bus_message_read_array(&message, 'y', &bytes, &size)) == 0)
-        refuse();
-    return {static_cast<const char*>(bytes), size};
-}
-
-double readNumber(sd_bus_message& message) {
-    return readBasic<double>(message, 'd');
-}
-
-std::uint32_t readCount(sd_bus_message& message) {
-    return readBasic<std::uint32_t>(message, 'u');
-}
-
 void write(sd_bus_message& message, const intents::ArchivedAction& action) {
     write(message, std::string_view(action.identifier));
     writing(message, 'a', parameterType, [&] {
@@ -207,10 +121,9 @@ intents::ArchivedAction readAction(sd_bus_message& message) {
 }
 
 void write(sd_bus_message& message, const Face& face) {
-    writeBasic(message, 'd', face.date.secondsSinceReferenceDate);
+    writeNumber(message, face.date.secondsSinceReferenceDate);
     writeTruth(message, face.reloadAfter.has_value());
-    writeBasic(message, 'd',
-               face.reloadAfter.value_or(foundation::Date{}).secondsSinceReferenceDate);
+    writeNumber(message, face.reloadAfter.value_or(foundation::Date{}).secondsSinceReferenceDate);
     writing(message, 'a', elementType, [&] {
         for (const Element& element : face.elements)
             writing(message, 'r', inside(elementType), [&] { write(message, element); });
