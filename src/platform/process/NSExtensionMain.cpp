@@ -52,7 +52,7 @@ int NSExtensionMain(int argumentCount, char** arguments, int (*programMain)(int,
         // Nothing waits for a process whose widget host was killed, and nothing that the widget
         // host had open is the extension's business.
         ::prctl(PR_SET_PDEATHSIG, SIGKILL);
-        ::close_range(remote::protocol::socketDescriptor + 1, ~0U, 0);
+        ::closefrom(remote::protocol::socketDescriptor + 1);
         const sandbox::Confinement confinement = sandbox::confine(permissionsOfExtension());
         if (requiresSandbox && !confinement.isComplete())
             return fail(message("el núcleo no da el aislamiento entero, y sin él no arranca"));
