@@ -42,6 +42,9 @@ endfunction()
 set(NURVA_TEST_ENVIRONMENT
     "G_DEBUG=fatal-criticals;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
 
+# In seconds. Only what hangs takes so long, under sanitizers on a busy machine too.
+set(NURVA_TEST_TIMEOUT 1800)
+
 # A program of tests. DEFINITIONS are for its sources; PROGRAMS are built before it is run.
 function(nurva_test_program name)
     cmake_parse_arguments(ARG "" "" "SOURCES;ROOMS;LIBRARIES;DEFINITIONS;PROGRAMS" ${ARGN})
@@ -58,8 +61,8 @@ function(nurva_test_program name)
         add_dependencies(${name}_test ${ARG_PROGRAMS})
     endif()
     add_test(NAME ${name} COMMAND ${name}_test)
-    # Only what hangs takes so long, under sanitizers on a busy machine too.
-    set_tests_properties(${name} PROPERTIES TIMEOUT 1800 ENVIRONMENT "${NURVA_TEST_ENVIRONMENT}")
+    set_tests_properties(${name} PROPERTIES
+        TIMEOUT ${NURVA_TEST_TIMEOUT} ENVIRONMENT "${NURVA_TEST_ENVIRONMENT}")
 endfunction()
 
 # The tests of one room, as one program. The room is linked whole with nothing but the rooms it names,
