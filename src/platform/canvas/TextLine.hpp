@@ -21,8 +21,8 @@ struct TextLine {
     std::vector<views::TextCluster> clusters;  // in the order of the text
 };
 
-/// Whether a font can be drawn at `scale` pixels per point: neither too small to be
-/// seen nor larger than a font engine can count in.
+/// Whether a font can be drawn at `scale` pixels per point: neither too small to be seen nor larger
+/// than a font engine can count in.
 bool canDrawText(const views::Font& font, double scale);
 
 /// Adds the outlines of the glyphs that take the text's colour to the path; origin is the line's

@@ -8,8 +8,7 @@
 namespace foundation {
 
 /// Hears the distributed notifications of one name: from its construction on, each is one call of
-/// the given function, made within `process`. For one thread, which waits as it
-/// likes:
+/// the given function, made within `process`. For one thread, which waits as it likes:
 ///
 ///     while (observer.process()) {
 ///         pollfd ready{observer.descriptor(), observer.events(), 0};

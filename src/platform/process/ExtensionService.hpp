@@ -43,8 +43,8 @@ class ExtensionService {
     const foundation::Environment& environment_;
     LoopTasks& tasks_;
     std::map<std::uint32_t, remote::PictureMemory> memories_;
-    std::map<std::uint64_t, foundation::BusMessage>
-        performing_;  // calls to be answered when it is done
+    // Calls to be answered when what they asked for is done.
+    std::map<std::uint64_t, foundation::BusMessage> performing_;
     std::uint64_t nextPerformance_ = 0;
     canvas::FontLibrary fonts_;
     canvas::PangoTextMeasurer measurer_{fonts_};

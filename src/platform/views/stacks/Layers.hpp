@@ -19,7 +19,7 @@ class Layers {
     Views children_;
 };
 
-/// `child` offered the size of `frame` and aligned in it.
+/// Where `child` stands when it is offered `offer` and aligned in `frame`.
 Placement aligned(const View& child,
                   const Proposal& offer,
                   Alignment alignment,
