@@ -6,7 +6,9 @@
 #include "support/Program.hpp"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
@@ -55,6 +57,30 @@ TEST(Session, ListsTheWidgetsOfTheExtensionInItsOrderAndInTheUsersLanguage) {
     EXPECT_EQ(session.gallery()[3].kind, volume);
     EXPECT_EQ(session.gallery()[3].description, "Las que suenan, con su nivel y el silenciador.");
     EXPECT_EQ(session.gallery()[3].families, std::vector{widgets::WidgetFamily::systemMedium});
+}
+
+/// What the user allows a stack to grow to, in programs that start while it lives.
+class StackLimit {
+  public:
+    explicit StackLimit(rlim_t bytes) {
+        ::getrlimit(RLIMIT_STACK, &usual_);
+        const rlimit other{.rlim_cur = std::min(bytes, usual_.rlim_max),
+                           .rlim_max = usual_.rlim_max};
+        ::setrlimit(RLIMIT_STACK, &other);
+    }
+    StackLimit(const StackLimit&) = delete;
+    StackLimit& operator=(const StackLimit&) = delete;
+    ~StackLimit() { ::setrlimit(RLIMIT_STACK, &usual_); }
+
+  private:
+    rlimit usual_{};
+};
+
+TEST(Session, HasRoomForItsThreadsHoweverLargeTheUsersStacksAre) {
+    const StackLimit large(rlim_t{1} << 30);
+    const Stage stage;
+    Session session(realExtension());
+    EXPECT_TRUE(soon([&] { return !session.gallery().empty(); }));
 }
 
 TEST(Session, ShowsEachWidgetAsItIsDrawnElsewhere) {

@@ -7,11 +7,13 @@
 #include "platform/remote/Protocol.hpp"
 #include "platform/sandbox/Confinement.hpp"
 
+#include <pthread.h>
 #include <sys/prctl.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
 #include <csignal>
+#include <cstddef>
 #include <iostream>
 #include <span>
 #include <string_view>
@@ -34,6 +36,17 @@ bool isSocket(int descriptor) {
     return ::getsockopt(descriptor, SOL_SOCKET, SO_TYPE, &type, &size) == 0;
 }
 
+/// Stacks count as memory, of which a confined process has little: threads get those that are
+/// usual, though the user may allow far larger ones.
+void bringStacksToUsualSize() {
+    constexpr std::size_t usual = std::size_t{8} << 20;
+    pthread_attr_t attributes;
+    ::pthread_attr_init(&attributes);
+    ::pthread_attr_setstacksize(&attributes, usual);
+    ::pthread_setattr_default_np(&attributes);
+    ::pthread_attr_destroy(&attributes);
+}
+
 }  // namespace
 
 Extension& principalExtension() {
@@ -53,6 +66,7 @@ int NSExtensionMain(int argumentCount, char** arguments, int (*programMain)(int,
         // host had open is the extension's business.
         ::prctl(PR_SET_PDEATHSIG, SIGKILL);
         ::closefrom(remote::protocol::socketDescriptor + 1);
+        bringStacksToUsualSize();
         const sandbox::Confinement confinement = sandbox::confine(permissionsOfExtension());
         if (requiresSandbox && !confinement.isComplete())
             return fail(message("el núcleo no da el aislamiento entero, y sin él no arranca"));
