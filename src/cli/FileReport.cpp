@@ -45,7 +45,7 @@ std::string reason(const foundation::DecodingError& error) {
             if (error.debugDescription.starts_with("Invalid number of keys"))
                 return message("tiene que llevar una sola de estas claves: %@",
                                {"ponerPerfil, alternarEncendido, silenciar, volumen"});
-            return message("el valor es de otro tipo");
+            return message("el valor es de otro tipo: %@", {error.debugDescription});
         case Kind::valueNotFound:
             return message("es null y tiene que llevar un valor");
         case Kind::dataCorrupted:

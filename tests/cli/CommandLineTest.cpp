@@ -144,6 +144,16 @@ TEST_F(CommandLine, SaysWhereAndWhyASnapshotIsRefused) {
     EXPECT_TRUE(json::parse(asJSON.output.substr(asJSON.output.find('\n')))["ok"]);
 }
 
+TEST_F(CommandLine, SaysWhatStandsInThePlaceOfWhat) {
+    json bad = snapshot();
+    bad["salida"] = 5;
+    const Outcome outcome = nurva("check " + file(bad.dump()));
+    EXPECT_NE(outcome.output.find("en salida: el valor es de otro tipo: Expected to decode String "
+                                  "but found number instead."),
+              std::string::npos)
+        << outcome.output;
+}
+
 TEST_F(CommandLine, RefusesWhatIsNoFile) {
     const json line = json::parse(nurva("check --json /nowhere").output);
     EXPECT_EQ(line["ok"], false);
