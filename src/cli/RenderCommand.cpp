@@ -105,10 +105,10 @@ void addRender(CLI::App& app) {
     options->widget.addKind(command);
     options->widget.addState(command);
     options->widget.addNow(command);
-    command.add_option("--scale", options->scale, message("Píxeles por punto"));
+    command.add_option("--scale", options->scale, message("Píxeles por punto; si falta, 2"));
     command.add_option("--family-size", options->familySize,
                        message("Otro tamaño de la tarjeta, en puntos: ANCHOxALTO"));
-    command.add_option("--format", options->format, message("png, svg o json"))
+    command.add_option("--format", options->format, message("png, svg o json; si falta, png"))
         ->check(CLI::IsMember({"png", "svg", "json"}))
         ->option_text(message("TEXTO"));
     command.add_option("-o,--output", options->output,
