@@ -14,6 +14,8 @@ function(install_naming_programs folder)
         configure_file("${source}/${file}.in" "${binary}/${file}" @ONLY)
         file(INSTALL "${binary}/${file}" DESTINATION "${CMAKE_INSTALL_PREFIX}/${folder}")
     endforeach()
+    # What install_manifest.txt will name.
+    set(CMAKE_INSTALL_MANIFEST_FILES "${CMAKE_INSTALL_MANIFEST_FILES}" PARENT_SCOPE)
 endfunction()
 
 install_naming_programs(share/applications

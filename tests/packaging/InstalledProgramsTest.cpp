@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <set>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -53,6 +54,18 @@ TEST_F(InstalledPrograms, AreWhatEntriesAndServicesStart) {
     const auto commands = commandLines(at("share"));
     EXPECT_THAT(commands, SizeIs(5));
     EXPECT_THAT(commands, Each(StartsWith('"' + at("bin/nurva") + "\" ")));
+}
+
+TEST_F(InstalledPrograms, StandInTheManifestByWhichTheyAreRemoved) {
+    std::istringstream manifest(contentsOf(NURVA_BUILD_FOLDER "/install_manifest.txt"));
+    std::set<std::string> named;
+    for (std::string line; std::getline(manifest, line);)
+        named.insert(line);
+    std::set<std::string> installed;
+    for (const auto& entry : recursive_directory_iterator(at("")))
+        if (!entry.is_directory())
+            installed.insert(entry.path());
+    EXPECT_EQ(named, installed);
 }
 
 TEST_F(InstalledPrograms, AreStartedByTheBusWhenTheWidgetHostIsCalled) {
