@@ -54,6 +54,10 @@ void host(const HostOptions& options) {
                                    std::cerr << "nurva: " << message(key, arguments) << std::endl;
                                });
     } catch (const foundation::FileError& error) {
+        // Only the group: there is no folder of the user's in which its container would lie.
+        if (error.path().is_relative())
+            throw Failure(ExitStatus::couldNot,
+                          message("no se sabe cuál es tu carpeta: falta HOME"));
         throw Failure(ExitStatus::couldNot,
                       message("no se puede crear el contenedor %@: %@",
                               {error.path().string(), std::string(std::strerror(error.code()))}));

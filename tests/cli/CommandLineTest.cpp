@@ -395,6 +395,13 @@ TEST_F(CommandLine, HostsADemoThatDoesWhatAWidgetAsksFor) {
         << outcome.errors;
 }
 
+TEST_F(CommandLine, HostsForNobodyWithoutAFolder) {
+    const Outcome outcome = support::run(
+        "env -u HOME -u XDG_DATA_HOME LANGUAGE=es LANG=es_ES.UTF-8 " NURVA_PROGRAM " host --demo");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.errors, "nurva: no se sabe cuál es tu carpeta: falta HOME\n");
+}
+
 TEST_F(CommandLine, RefusesToHostWithoutABusOrScene) {
     EXPECT_EQ(nurva("host").status, 2);
     EXPECT_EQ(nurva("host --demo --scene nada").status, 2);
