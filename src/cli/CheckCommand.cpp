@@ -60,7 +60,7 @@ void check(const CheckOptions& options) {
 template <class Value>
 void addChecking(CLI::App& command, const std::string& files) {
     const auto options = std::make_shared<CheckOptions>();
-    command.add_option("files", options->files, files)->required();
+    command.add_option("files", options->files, files)->required()->type_name("FILE");
     command.add_flag("--json", options->asJSON, message("Una línea de JSON por archivo"));
     command.callback([options] { check<Value>(*options); });
 }

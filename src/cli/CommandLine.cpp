@@ -52,6 +52,7 @@ void speakUsersLanguage(CLI::App& app) {
     formatter->label("REQUIRED", message("OBLIGATORIO"));
     formatter->label("TEXT", message("TEXTO"));
     formatter->label("FLOAT", message("NÚMERO"));
+    formatter->label("FILE", message("ARCHIVO"));
     app.formatter(formatter);
     app.option_defaults()->group(message("Opciones"));
     addHelp(app);

@@ -39,9 +39,9 @@ bool namesFile(std::string_view name) {
 }
 
 /// What stands for the option's value, as in the help but without the choices that CLI11 adds.
-std::string valueName(const CLI::Option& option, const CLI::FormatterBase& help, bool isFile) {
+std::string valueName(const CLI::Option& option, const CLI::FormatterBase& help) {
     const std::string type = option.get_type_name();
-    return isFile ? message("ARCHIVO") : help.get_label(type.substr(0, type.find(':')));
+    return help.get_label(type.substr(0, type.find(':')));
 }
 
 ArgumentRow row(const CLI::Option& option, const CLI::FormatterBase& help) {
@@ -56,7 +56,7 @@ ArgumentRow row(const CLI::Option& option, const CLI::FormatterBase& help) {
     for (const std::string& word : option.get_lnames())
         row.names.push_back("--" + word);
     if (option.get_items_expected_max() > 0)
-        row.value = option.get_positional() ? name : valueName(option, help, row.isFile);
+        row.value = option.get_positional() ? name : valueName(option, help);
     return row;
 }
 

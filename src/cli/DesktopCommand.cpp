@@ -65,9 +65,12 @@ void addDesktop(CLI::App& app) {
     command.add_flag("--gallery", options->gallery, message("Abre la galería de widgets"));
     command.add_flag("--windows", options->windows,
                      message("Pone los widgets en ventanas normales"));
-    command.add_option("--scale", options->scale,
-                       message("Píxeles por punto, si no valen los de la pantalla"));
-    command.add_option("--extension", options->extension, message("El programa de la extensión"));
+    command
+        .add_option("--scale", options->scale,
+                    message("Píxeles por punto, si no valen los de la pantalla"))
+        ->type_name("FLOAT");
+    command.add_option("--extension", options->extension, message("El programa de la extensión"))
+        ->type_name("FILE");
     command.add_flag("--require-sandbox", options->requireSandbox,
                      message("No arranca la extensión sin su aislamiento entero"));
     command.callback([options] { become(*options); });

@@ -111,8 +111,10 @@ void addRender(CLI::App& app) {
     command.add_option("--format", options->format, message("png, svg o json; si falta, png"))
         ->check(CLI::IsMember({"png", "svg", "json"}))
         ->option_text(message("TEXTO"));
-    command.add_option("-o,--output", options->output,
-                       message("Archivo donde se escribe; si falta, la salida"));
+    command
+        .add_option("-o,--output", options->output,
+                    message("Archivo donde se escribe; si falta, la salida"))
+        ->type_name("FILE");
     command.callback([options] { render(*options); });
 }
 

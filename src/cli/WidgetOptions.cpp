@@ -48,9 +48,10 @@ void WidgetOptions::addKind(CLI::App& command) {
 }
 
 void WidgetOptions::addState(CLI::App& command) {
-    command.add_option(
-        "--state", state,
-        message("Archivo del estado («-»: la entrada); si falta, el del contenedor"));
+    command
+        .add_option("--state", state,
+                    message("Archivo del estado («-»: la entrada); si falta, el del contenedor"))
+        ->type_name("FILE");
 }
 
 void WidgetOptions::addNow(CLI::App& command) {

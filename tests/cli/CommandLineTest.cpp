@@ -266,6 +266,17 @@ TEST_F(CommandLine, HelpsInTheUsersLanguage) {
     EXPECT_EQ(english.output.find("Píxeles"), std::string::npos) << english.output;
 }
 
+TEST_F(CommandLine, TellsWhatKindOfValueAnOptionTakes) {
+    const std::string render = nurva("render --help", "en_GB.UTF-8").output;
+    for (const char* option : {"--state FILE", "--now NUMBER", "--scale NUMBER", "--output FILE"})
+        EXPECT_NE(render.find(option), std::string::npos) << option << ": " << render;
+    const std::string desktop = nurva("desktop --help", "en_GB.UTF-8").output;
+    for (const char* option : {"--scale NUMBER", "--extension FILE"})
+        EXPECT_NE(desktop.find(option), std::string::npos) << option << ": " << desktop;
+    const std::string check = nurva("check --help", "en_GB.UTF-8").output;
+    EXPECT_NE(check.find("files FILE ..."), std::string::npos) << check;
+}
+
 TEST_F(CommandLine, SpeaksOfFaultsInTheUsersLanguage) {
     EXPECT_NE(nurva("render nurva.nada", "en_GB.UTF-8").errors.find("there is no widget"),
               std::string::npos);
