@@ -154,8 +154,10 @@ bool comesToRest(std::chrono::milliseconds time) {
         const widgethost::Source end = widgethost::after(time, [&] { isOver = true; });
         const long before = turnsOfThisThread();
         int iterations = 0;
-        for (; !isOver; ++iterations)
+        while (!isOver) {
             g_main_context_iteration(nullptr, TRUE);
+            ++iterations;
+        }
         if (iterations <= 2 && turnsOfThisThread() - before <= 2)
             return true;
     }
