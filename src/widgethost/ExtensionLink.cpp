@@ -61,6 +61,10 @@ ExtensionLink::ExtensionLink(const SessionOptions& options, LinkEvents events)
 
 ExtensionLink::~ExtensionLink() = default;
 
+bool ExtensionLink::isWaitedFor() const {
+    return !calls_.empty();
+}
+
 Ending ExtensionLink::end() {
     connection_.reset();
     const int status = process_.end();
@@ -123,6 +127,7 @@ void ExtensionLink::send(const foundation::BusMessage& call) const {
 void ExtensionLink::ask(const foundation::BusMessage& call, Answer then) {
     Call& made = calls_.emplace_back(Call{.link = this, .then = std::move(then)});
     sd_bus_slot* slot = nullptr;
+    // What cannot be sent any more is not answered: the connection says that it is gone.
     sd_bus_call_async(connection_->bus(), &slot, call.get(), answered, &made,
                       static_cast<std::uint64_t>(patience_.count()));
     made.slot.reset(slot);

@@ -45,6 +45,9 @@ class ExtensionLink {
     /// Whether nothing that is asked would be answered any more.
     bool isDead() const { return process_.hasEnded(); }
 
+    /// Whether a question has not been answered yet.
+    bool isWaitedFor() const;
+
     /// Ends the conversation, and the process with it; tells how that had ended before.
     Ending end();
 

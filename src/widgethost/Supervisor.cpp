@@ -16,7 +16,7 @@ Supervisor::Supervisor(SessionOptions options, Events events)
     : options_(std::move(options)), events_(std::move(events)) {}
 
 ExtensionLink* Supervisor::link() {
-    resting_ = after(options_.rest, [this] { end(); });
+    restLater();
     // What is asked of a process whose end nobody has noticed yet would be lost.
     if (link_ && link_->isDead())
         stopped();
@@ -46,6 +46,11 @@ ExtensionLink* Supervisor::link() {
 void Supervisor::blame(Ending ending) {
     const Instant now = Instant::clock::now();
     ending == Ending::fromOutside ? limit_.killed(now) : limit_.stopped(now);
+}
+
+void Supervisor::restLater() {
+    resting_ =
+        after(options_.rest, [this] { link_ && link_->isWaitedFor() ? restLater() : end(); });
 }
 
 void Supervisor::stopped() {

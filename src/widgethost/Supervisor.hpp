@@ -44,6 +44,8 @@ class Supervisor {
     std::uint64_t number() const { return number_; }
 
   private:
+    /// Ends the process when it has not been needed for a while.
+    void restLater();
     void stopped();
     void postponeTo(Instant when);
 

@@ -186,6 +186,14 @@ TEST(Supervision, EndsAnExtensionThatNobodyNeedsAndStartsItAgainForAPress) {
     EXPECT_FALSE(card.stage.request().empty());
 }
 
+TEST(Supervision, EndsNoExtensionThatItWaitsFor) {
+    OneCard card(room, {.extension = NURVA_EXTENSION, .patience = support::patience, .rest = 1ms});
+    for (int shown = 2; shown < 5; ++shown) {
+        card.viewer.display->press({.identifier = "AlternarEncendido"});
+        ASSERT_TRUE(soon([&] { return card.viewer.shown == shown; }));
+    }
+}
+
 TEST(Supervision, SaysThatAnExtensionCannotBeStarted) {
     const Stage stage;
     testing::internal::CaptureStderr();
