@@ -52,4 +52,13 @@ inline const views::Control* controlLabelled(const views::Scene& scene, std::str
     return nullptr;
 }
 
+/// The control that a press at this point meets: the topmost, or null.
+inline const views::Control* controlAt(const views::Scene& scene, views::Point point) {
+    const views::Control* topmost = nullptr;
+    for (const views::Control& control : scene.controls)
+        if (control.frame.contains(point))
+            topmost = &control;
+    return topmost;
+}
+
 }  // namespace support

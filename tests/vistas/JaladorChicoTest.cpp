@@ -1,5 +1,4 @@
 #include "linea/Idioma.hpp"
-#include "platform/views/scene/HitTest.hpp"
 #include "vistas/CaraDePrueba.hpp"
 #include "vistas/JaladorChico.hpp"
 #include "vistas/WO.hpp"
@@ -93,7 +92,7 @@ TEST(JaladorChico, HasATenthForEveryTenPercent) {
 TEST(JaladorChico, SetsThirtyPercentWithItsThirdTenth) {
     const auto escena = barra(jalador(0.5));
     for (const double x : {32.0, 37.0, 41.9}) {
-        const auto* decimo = views::controlAt(escena, {x, 20});
+        const auto* decimo = support::controlAt(escena, {x, 20});
         ASSERT_NE(decimo, nullptr);
         EXPECT_EQ(decimo->label, "30 por ciento");
         EXPECT_EQ(std::get<double>(decimo->action.parameters.at(1).second), 0.3);
