@@ -31,7 +31,7 @@ class Conversation : public testing::Test {
                                              remote::protocol::interface, member));
         const foundation::BusMessage call(made);
         fill(*made);
-        sd_bus_error error = SD_BUS_ERROR_NULL;
+        sd_bus_error error{};
         sd_bus_message* answer = nullptr;
         sd_bus_call(bus_.get(), made, std::chrono::microseconds(support::patience).count(), &error,
                     &answer);
