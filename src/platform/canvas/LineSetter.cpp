@@ -152,7 +152,8 @@ class Setter {
                 cluster = 0;
             }
             set_.line.width += advance;
-            advances_.add(static_cast<std::size_t>(item.offset + glyphs.log_clusters[i]), advance);
+            const int begin = item.offset + glyphs.log_clusters[i];
+            advances_.add(static_cast<std::size_t>(begin), advance);
         }
         if (!run.glyphs.empty())
             set_.line.runs.push_back(std::move(run));
