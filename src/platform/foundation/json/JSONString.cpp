@@ -2,6 +2,7 @@
 
 #include "platform/foundation/UTF8.hpp"
 
+#include <algorithm>
 #include <bit>
 #include <cstdint>
 #include <cstring>
@@ -154,18 +155,16 @@ bool readWholeString(std::string_view text, std::string& string) {
 }
 
 void appendUnescaped(std::string& string, std::string_view text) {
-    const char* at = text.data();
-    const char* const end = at + text.size();
-    while (at != end) {
-        const void* const found = std::memchr(at, '\\', static_cast<std::size_t>(end - at));
-        const char* const backslash = found ? static_cast<const char*>(found) : end;
-        string.append(at, backslash);
-        if (backslash == end) {
+    while (true) {
+        const std::size_t plain = std::min(text.find('\\'), text.size());
+        string += text.substr(0, plain);
+        text.remove_prefix(plain);
+        if (text.empty()) {
             return;
         }
-        const Escape escape = readEscape(backslash, end);
+        const Escape escape = readEscape(text.data(), text.data() + text.size());
         appendUTF8(string, escape.character);
-        at = escape.end;
+        text.remove_prefix(static_cast<std::size_t>(escape.end - text.data()));
     }
 }
 
