@@ -12,8 +12,8 @@ namespace nurva::GrupoDeApps {
 
 namespace {
 
-constexpr std::array<std::string_view, 4> nombres{"ponerPerfil", "alternarEncendido", "silenciar",
-                                                  "volumen"};
+constexpr auto nombres =
+    std::to_array<std::string_view>({"ponerPerfil", "alternarEncendido", "silenciar", "volumen"});
 
 }  // namespace
 

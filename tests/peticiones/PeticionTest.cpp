@@ -101,7 +101,7 @@ TEST(Peticion, NeedsExactlyOneOfItsKeys) {
                              R"("silenciar":{"app":"a","si":true})",
                              R"("volumen":{"app":"a","nivel":1})"};
     std::vector<std::string> texts{"{}", R"({"x":1})", R"({"Volumen":{"app":"a","nivel":1}})",
-                                   R"({"volumen ":{"app":"a","nivel":1}})"};
+                                   R"({"volumen ":{"app":"a","nivel":1}})", R"({"":{}})"};
     for (const std::string one : members)
         for (const std::string other : members)
             if (one != other)
