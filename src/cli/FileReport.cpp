@@ -36,6 +36,14 @@ std::string reason(const foundation::FileError& error) {
     return std::strerror(error.code());
 }
 
+std::string keysOfARequest() {
+    using enum nurva::GrupoDeApps::Peticion::CodingKeys;
+    std::string keys;
+    for (const auto key : {ponerPerfil, alternarEncendido, silenciar, volumen})
+        keys += (keys.empty() ? "" : ", ") + std::string(nombre(key));
+    return keys;
+}
+
 std::string reason(const foundation::DecodingError& error) {
     using Kind = foundation::DecodingError::Kind;
     switch (error.kind) {
@@ -43,8 +51,7 @@ std::string reason(const foundation::DecodingError& error) {
             return message("falta esta clave, que es obligatoria");
         case Kind::typeMismatch:
             if (error.debugDescription.starts_with("Invalid number of keys"))
-                return message("tiene que llevar una sola de estas claves: %@",
-                               {"ponerPerfil, alternarEncendido, silenciar, volumen"});
+                return message("tiene que llevar una sola de estas claves: %@", {keysOfARequest()});
             return message("el valor es de otro tipo: %@", {error.debugDescription});
         case Kind::valueNotFound:
             return message("es null y tiene que llevar un valor");

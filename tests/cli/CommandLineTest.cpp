@@ -118,105 +118,6 @@ TEST_F(CommandLine, PrintsThePlaceholderWhateverTheContainerHolds) {
     EXPECT_FALSE(entry.contains("reloadAfter"));
 }
 
-TEST_F(CommandLine, AcceptsAGoodSnapshot) {
-    const Outcome outcome = nurva("check " + example);
-    EXPECT_EQ(outcome.status, 0);
-    EXPECT_EQ(outcome.output, example + ": aceptado\n");
-    const json line = json::parse(nurva("check --json " + example).output);
-    EXPECT_EQ(line, json({{"file", example}, {"ok", true}, {"value", snapshot()}}));
-}
-
-TEST_F(CommandLine, SaysWhereAndWhyASnapshotIsRefused) {
-    json bad = snapshot();
-    bad["apps"][0].erase("nivel");
-    const std::string name = file(bad.dump());
-    const Outcome outcome = nurva("check " + name);
-    EXPECT_EQ(outcome.status, 1);
-    EXPECT_NE(outcome.output.find("keyNotFound"), std::string::npos) << outcome.output;
-    EXPECT_NE(outcome.output.find("apps.0.nivel"), std::string::npos) << outcome.output;
-    const Outcome asJSON = nurva("check --json " + name + " " + example);
-    EXPECT_EQ(asJSON.status, 1);
-    const json line = json::parse(asJSON.output.substr(0, asJSON.output.find('\n')));
-    EXPECT_EQ(line["ok"], false);
-    EXPECT_EQ(line["kind"], "keyNotFound");
-    EXPECT_EQ(line["path"], "apps.0.nivel");
-    EXPECT_NE(line["reason"], "");
-    EXPECT_TRUE(json::parse(asJSON.output.substr(asJSON.output.find('\n')))["ok"]);
-}
-
-TEST_F(CommandLine, SaysWhatStandsInThePlaceOfWhat) {
-    json bad = snapshot();
-    bad["salida"] = 5;
-    const Outcome outcome = nurva("check " + file(bad.dump()));
-    EXPECT_NE(outcome.output.find("en salida: el valor es de otro tipo: Expected to decode String "
-                                  "but found number instead."),
-              std::string::npos)
-        << outcome.output;
-}
-
-TEST_F(CommandLine, RefusesWhatIsNoFile) {
-    const json line = json::parse(nurva("check --json /nowhere").output);
-    EXPECT_EQ(line["ok"], false);
-    EXPECT_EQ(line["kind"], "unreadable");
-    EXPECT_EQ(nurva("check /nowhere").status, 1);
-    EXPECT_EQ(nurva("check /").status, 1);
-}
-
-TEST_F(CommandLine, RefusesWrongUseWithAMessage) {
-    for (const char* arguments : {"",
-                                  "nonsense",
-                                  "render",
-                                  "render nurva.nada",
-                                  "render nurva.queEstaPuesto --scale 0",
-                                  "render nurva.queEstaPuesto --scale -1",
-                                  "render nurva.queEstaPuesto --scale nan",
-                                  "render nurva.queEstaPuesto --scale inf",
-                                  "render nurva.queEstaPuesto --scale dos",
-                                  "render nurva.queEstaPuesto --scale 1e9",
-                                  "render nurva.queEstaPuesto --now luego",
-                                  "render nurva.queEstaPuesto --now nan",
-                                  "render nurva.queEstaPuesto --format gif",
-                                  "render nurva.queEstaPuesto --family-size 170",
-                                  "render nurva.queEstaPuesto --family-size 0x0",
-                                  "render nurva.queEstaPuesto --family-size 10x10x10",
-                                  "render nurva.queEstaPuesto --family-size 1e9x1e9",
-                                  "render nurva.queEstaPuesto sobra",
-                                  "render nurva.queEstaPuesto --sobra",
-                                  "timeline nurva.nada",
-                                  "placeholder",
-                                  "check"}) {
-        const Outcome outcome = nurva(arguments);
-        EXPECT_EQ(outcome.status, 2) << arguments;
-        EXPECT_EQ(outcome.output, "") << arguments;
-        EXPECT_TRUE(outcome.errors.starts_with("nurva: ")) << arguments << ": " << outcome.errors;
-    }
-}
-
-TEST_F(CommandLine, NamesWhatIsWrongInTheUsersWords) {
-    struct Case {
-        std::string arguments;
-        std::string said;
-    };
-    const std::vector<Case> cases{
-        {"", "falta la orden; hay: render, "},
-        {"rendr", "no hay ninguna orden «rendr»; hay: render, "},
-        {"--versio", "sobra algo en la orden: --versio\n       ayuda: nurva --help"},
-        {"render", "falta algo en la orden: kind\n       ayuda: nurva render --help"},
-        {"render nurva.tuCuarto b --c", "sobra algo en la orden: b --c\n"},
-        {"render nurva.tuCuarto --scale dos",
-         "no sirve: --scale dos (Píxeles por punto; si falta, 2)\n"},
-        {"render nurva.tuCuarto --format gif",
-         "no sirve: --format gif (png, svg o json; si falta, png)\n"},
-        {"render nurva.tuCuarto --state", "no sirve: --state (Archivo del estado"},
-        {"completions ksh", "no sirve: shell ksh (bash, zsh o fish)\n"},
-        {"check-request",
-         "falta algo en la orden: files\n       ayuda: nurva check-request --help"},
-    };
-    for (const auto& [arguments, said] : cases)
-        EXPECT_NE(nurva(arguments).errors.find(said), std::string::npos)
-            << arguments << ": " << nurva(arguments).errors;
-}
-
 TEST_F(CommandLine, LinesUpTheHelpWhateverTheLanguage) {
     std::istringstream help(nurva("render --help").output);
     std::set<std::size_t> columns;
@@ -229,10 +130,6 @@ TEST_F(CommandLine, LinesUpTheHelpWhateverTheLanguage) {
         columns.insert(static_cast<std::size_t>(letters));
     }
     EXPECT_EQ(columns.size(), 1u) << nurva("render --help").output;
-}
-
-TEST_F(CommandLine, NamesTheKindsThereAre) {
-    EXPECT_NE(nurva("render nurva.nada").errors.find("nurva.queEstaPuesto"), std::string::npos);
 }
 
 TEST_F(CommandLine, LeavesNoPartOfAFileBehind) {
@@ -275,13 +172,6 @@ TEST_F(CommandLine, TellsWhatKindOfValueAnOptionTakes) {
         EXPECT_NE(desktop.find(option), std::string::npos) << option << ": " << desktop;
     const std::string check = nurva("check --help", "en_GB.UTF-8").output;
     EXPECT_NE(check.find("files FILE ..."), std::string::npos) << check;
-}
-
-TEST_F(CommandLine, SpeaksOfFaultsInTheUsersLanguage) {
-    EXPECT_NE(nurva("render nurva.nada", "en_GB.UTF-8").errors.find("there is no widget"),
-              std::string::npos);
-    EXPECT_NE(nurva("render nurva.nada", "es_MX.UTF-8").errors.find("no hay ningún widget"),
-              std::string::npos);
 }
 
 TEST_F(CommandLine, WritesNumbersOfTheSceneTheSameInEveryLocale) {
@@ -337,33 +227,6 @@ TEST_F(CommandLine, SendsNothingForAnActionThatIsNotWhole) {
     EXPECT_FALSE(std::filesystem::exists(container() / "peticion.json"));
 }
 
-TEST_F(CommandLine, SaysWhetherARequestIsAccepted) {
-    const std::string good = file(R"({"volumen":{"app":"a","nivel":0.5}})", "good.json");
-    const std::string bad = file(R"({"silenciar":{"app":"a"}})", "bad.json");
-    EXPECT_EQ(nurva("check-request " + good).status, 0);
-    EXPECT_EQ(json::parse(nurva("check-request --json " + good).output)["value"],
-              json({{"volumen", {{"app", "a"}, {"nivel", 0.5}}}}));
-    const json refused = json::parse(nurva("check-request --json " + bad).output);
-    EXPECT_EQ(refused["kind"], "keyNotFound");
-    EXPECT_EQ(refused["path"], "silenciar.si");
-    EXPECT_EQ(nurva("check-request " + bad).status, 1);
-    const json none = json::parse(nurva("check-request --json " + file("{}", "none.json")).output);
-    EXPECT_EQ(none["kind"], "typeMismatch");
-    EXPECT_EQ(none["reason"],
-              "tiene que llevar una sola de estas claves: ponerPerfil, alternarEncendido, "
-              "silenciar, volumen");
-}
-
-TEST_F(CommandLine, SaysWhereATextIsNoJSONAndWhichNumberDoesNotFit) {
-    EXPECT_NE(nurva("check " + file("{\"perfil\":\n  x}")).output.find("línea 2, columna 3"),
-              std::string::npos);
-    json odd = snapshot();
-    odd["acento"] = 1.5;
-    const Outcome outcome = nurva("check " + file(odd.dump()));
-    EXPECT_EQ(outcome.status, 1);
-    EXPECT_NE(outcome.output.find("<1.5>"), std::string::npos) << outcome.output;
-}
-
 TEST_F(CommandLine, StopsAtALevelThatCannotBeShownAndSaysSo) {
     json loud = snapshot();
     loud["apps"][0]["nivel"] = 1e300;
@@ -378,49 +241,6 @@ TEST_F(CommandLine, StopsAtALevelThatCannotBeShownAndSaysSo) {
                     file(loud.dump()))
                   .status,
               0);
-}
-
-TEST_F(CommandLine, HostsADemoThatDoesWhatAWidgetAsksFor) {
-    // A bus of its own, the host in the background until the end, a press, and what came of it.
-    const std::string state = container().string() + "/estado.json";
-    const std::string program =
-        "env -u LANGUAGE -u LC_ALL -u LC_MESSAGES LANG=es_ES.UTF-8 XDG_DATA_HOME='" +
-        home.path().string() + "' " NURVA_PROGRAM;
-    const Outcome outcome =
-        support::run("cat >script <<'END'\n" + program +
-                     " host --demo --scene musica & host=$!\n"
-                     "for i in $(seq 100); do [ -s '" +
-                     state + "' ] && break; sleep 0.05; done\n" + program +
-                     " perform PonerVolumen clave=org.ejemplo.navegador nivel=0.625\n"
-                     "for i in $(seq 100); do grep -q '0.625' '" +
-                     state + "' && break; sleep 0.05; done\n" + program +
-                     " perform PonerVolumen clave=nadie nivel=0.5\n"
-                     "sleep 0.2; kill $host; wait $host; echo ended $?; cat '" +
-                     state +
-                     "'\n"
-                     "END\n"
-                     "dbus-run-session -- sh script");
-    EXPECT_NE(outcome.output.find("ended 0"), std::string::npos) << outcome.output;
-    EXPECT_NE(outcome.output.find("\"nivel\":0.625"), std::string::npos) << outcome.output;
-    EXPECT_NE(outcome.errors.find("no hay ninguna app con ese id"), std::string::npos)
-        << outcome.errors;
-}
-
-TEST_F(CommandLine, HostsForNobodyWithoutAFolder) {
-    const Outcome outcome = support::run(
-        "env -u HOME -u XDG_DATA_HOME LANGUAGE=es LANG=es_ES.UTF-8 " NURVA_PROGRAM " host --demo");
-    EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.errors, "nurva: no se sabe cuál es tu carpeta: falta HOME\n");
-}
-
-TEST_F(CommandLine, RefusesToHostWithoutABusOrScene) {
-    EXPECT_EQ(nurva("host").status, 2);
-    EXPECT_EQ(nurva("host --demo --scene nada").status, 2);
-    const Outcome outcome =
-        support::run("env -u DBUS_SESSION_BUS_ADDRESS XDG_RUNTIME_DIR=/nowhere XDG_DATA_HOME='" +
-                     home.path().string() + "' " NURVA_PROGRAM " host --demo");
-    EXPECT_EQ(outcome.status, 1);
-    EXPECT_NE(outcome.errors.find("dbus-run-session"), std::string::npos) << outcome.errors;
 }
 
 }  // namespace
