@@ -5,10 +5,10 @@
 #include "peers/GLibDelivery.hpp"
 #include "peticiones/Pedir.hpp"
 #include "peticiones/PonerVolumen.hpp"
-#include "platform/foundation/DefaultFileManager.hpp"
-#include "platform/foundation/SessionBusNotificationCenter.hpp"
 #include "platform/foundation/SystemClock.hpp"
-#include "platform/foundation/WriteFile.hpp"
+#include "platform/foundation/files/DefaultFileManager.hpp"
+#include "platform/foundation/files/WriteFile.hpp"
+#include "platform/foundation/notifications/SessionBusNotificationCenter.hpp"
 #include "support/ChildProcess.hpp"
 #include "support/PrivateSessionBus.hpp"
 

@@ -2,8 +2,8 @@
 // notification, and says so with one line.
 
 #include "peticiones/Pedir.hpp"
-#include "platform/foundation/NotificationObserver.hpp"
-#include "platform/foundation/ReadFile.hpp"
+#include "platform/foundation/files/ReadFile.hpp"
+#include "platform/foundation/notifications/NotificationObserver.hpp"
 
 #include <poll.h>
 #include <unistd.h>

@@ -3,7 +3,7 @@
 // inside a D-Bus message. The same library carries the messages of both over the same kind of
 // socket.
 
-#include "platform/foundation/SessionBus.hpp"
+#include "platform/foundation/notifications/SessionBus.hpp"
 #include "platform/remote/PictureMemory.hpp"
 #include "platform/remote/Wire.hpp"
 #include "support/PrivateSessionBus.hpp"

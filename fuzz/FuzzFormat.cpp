@@ -1,4 +1,4 @@
-#include "platform/foundation/Format.hpp"
+#include "platform/foundation/localization/Format.hpp"
 
 #include <algorithm>
 #include <cstddef>

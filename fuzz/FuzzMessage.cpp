@@ -1,5 +1,5 @@
-#include "platform/foundation/FileDescriptor.hpp"
-#include "platform/foundation/SessionBus.hpp"
+#include "platform/foundation/files/FileDescriptor.hpp"
+#include "platform/foundation/notifications/SessionBus.hpp"
 #include "platform/remote/Connection.hpp"
 #include "platform/remote/Wire.hpp"
 

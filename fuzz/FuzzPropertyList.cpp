@@ -1,6 +1,6 @@
-#include "platform/foundation/PropertyList.hpp"
-#include "platform/foundation/PropertyListLimits.hpp"
-#include "platform/foundation/UTF8.hpp"
+#include "platform/foundation/plist/PropertyList.hpp"
+#include "platform/foundation/plist/PropertyListLimits.hpp"
+#include "platform/foundation/text/UTF8.hpp"
 
 #include <cstddef>
 #include <cstdint>

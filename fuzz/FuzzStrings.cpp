@@ -1,8 +1,8 @@
-#include "platform/foundation/PropertyList.hpp"
-#include "platform/foundation/StringsTable.hpp"
-#include "platform/foundation/StringsText.hpp"
-#include "platform/foundation/TextEncoding.hpp"
-#include "platform/foundation/UTF8.hpp"
+#include "platform/foundation/localization/StringsTable.hpp"
+#include "platform/foundation/localization/StringsText.hpp"
+#include "platform/foundation/plist/PropertyList.hpp"
+#include "platform/foundation/text/TextEncoding.hpp"
+#include "platform/foundation/text/UTF8.hpp"
 
 #include <cstddef>
 #include <cstdint>

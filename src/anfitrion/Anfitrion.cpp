@@ -2,7 +2,7 @@
 
 #include "anfitrion/Aplicar.hpp"
 #include "estado/CargarEstado.hpp"
-#include "platform/foundation/FileError.hpp"
+#include "platform/foundation/files/FileError.hpp"
 #include "platform/foundation/json/JSONEncoder.hpp"
 #include "platform/widgets/WidgetCenter.hpp"
 

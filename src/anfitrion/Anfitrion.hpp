@@ -3,7 +3,7 @@
 #include "anfitrion/Escena.hpp"
 #include "peticiones/Peticion.hpp"
 #include "platform/foundation/Environment.hpp"
-#include "platform/foundation/FormatArgument.hpp"
+#include "platform/foundation/localization/FormatArgument.hpp"
 
 #include <filesystem>
 #include <functional>

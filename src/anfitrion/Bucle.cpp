@@ -1,7 +1,7 @@
 #include "anfitrion/Bucle.hpp"
 
 #include "enlace/Buzon.hpp"
-#include "platform/foundation/FileDescriptor.hpp"
+#include "platform/foundation/files/FileDescriptor.hpp"
 
 #include <poll.h>
 #include <signal.h>

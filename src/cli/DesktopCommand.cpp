@@ -1,7 +1,7 @@
 #include "cli/Commands.hpp"
 #include "cli/Failure.hpp"
 #include "cli/Message.hpp"
-#include "platform/foundation/InstalledProgram.hpp"
+#include "platform/foundation/bundle/InstalledProgram.hpp"
 
 #include <CLI/CLI.hpp>
 #include <unistd.h>

@@ -4,7 +4,7 @@
 #include "estado/CargarEstado.hpp"
 #include "estado/GrupoDeApps.hpp"
 #include "peticiones/Peticion.hpp"
-#include "platform/foundation/FileError.hpp"
+#include "platform/foundation/files/FileError.hpp"
 #include "platform/foundation/json/JSONDecoder.hpp"
 
 #include <cerrno>

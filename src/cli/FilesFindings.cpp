@@ -4,7 +4,7 @@
 #include "estado/CargarEstado.hpp"
 #include "estado/GrupoDeApps.hpp"
 #include "platform/canvas/FontFiles.hpp"
-#include "platform/foundation/Entitlements.hpp"
+#include "platform/foundation/bundle/Entitlements.hpp"
 #include "vistas/Cara.hpp"
 
 #include <algorithm>

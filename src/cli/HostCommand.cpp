@@ -3,8 +3,8 @@
 #include "cli/Failure.hpp"
 #include "cli/Message.hpp"
 #include "estado/GrupoDeApps.hpp"
-#include "platform/foundation/DefaultFileManager.hpp"
-#include "platform/foundation/FileError.hpp"
+#include "platform/foundation/files/DefaultFileManager.hpp"
+#include "platform/foundation/files/FileError.hpp"
 
 #include <CLI/CLI.hpp>
 

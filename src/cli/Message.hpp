@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/Message.hpp"
+#include "platform/foundation/localization/Message.hpp"
 
 namespace cli {
 

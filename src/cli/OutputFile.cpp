@@ -2,9 +2,9 @@
 
 #include "cli/Failure.hpp"
 #include "cli/Message.hpp"
-#include "platform/foundation/FileDescriptor.hpp"
-#include "platform/foundation/FileError.hpp"
-#include "platform/foundation/WriteFile.hpp"
+#include "platform/foundation/files/FileDescriptor.hpp"
+#include "platform/foundation/files/FileError.hpp"
+#include "platform/foundation/files/WriteFile.hpp"
 
 #include <fcntl.h>
 #include <unistd.h>

@@ -1,7 +1,7 @@
 #include "cli/StateFile.hpp"
 
-#include "platform/foundation/FileError.hpp"
-#include "platform/foundation/ReadFile.hpp"
+#include "platform/foundation/files/FileError.hpp"
+#include "platform/foundation/files/ReadFile.hpp"
 
 #include <cerrno>
 #include <iostream>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/FileManager.hpp"
+#include "platform/foundation/files/FileManager.hpp"
 
 #include <string>
 

@@ -5,7 +5,7 @@
 #include "cli/Message.hpp"
 #include "cli/StateFile.hpp"
 #include "extension/NurvaWidgets.hpp"
-#include "platform/foundation/FileError.hpp"
+#include "platform/foundation/files/FileError.hpp"
 
 #include <CLI/CLI.hpp>
 

@@ -2,7 +2,7 @@
 
 #include "desktop/Explanation.hpp"
 #include "desktop/Zoom.hpp"
-#include "platform/foundation/Message.hpp"
+#include "platform/foundation/localization/Message.hpp"
 #include "widgethost/Arrangement.hpp"
 #include "widgethost/Changes.hpp"
 

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "desktop/CardWindow.hpp"
-#include "desktop/Connect.hpp"
-#include "desktop/Gallery.hpp"
-#include "desktop/Later.hpp"
 #include "desktop/MonitorWatch.hpp"
-#include "desktop/Mount.hpp"
 #include "desktop/Screens.hpp"
 #include "desktop/WidgetSource.hpp"
+#include "desktop/card/CardWindow.hpp"
+#include "desktop/gallery/Gallery.hpp"
+#include "desktop/gtk/Connect.hpp"
+#include "desktop/gtk/Later.hpp"
+#include "desktop/mount/Mount.hpp"
 #include "widgethost/Placement.hpp"
 #include "widgethost/PlacementFile.hpp"
 

@@ -1,7 +1,7 @@
 #include "desktop/Explanation.hpp"
 
-#include "desktop/Connect.hpp"
-#include "platform/foundation/Message.hpp"
+#include "desktop/gtk/Connect.hpp"
+#include "platform/foundation/localization/Message.hpp"
 
 #include <gtk/gtk.h>
 

@@ -1,6 +1,6 @@
 #include "desktop/MonitorWatch.hpp"
 
-#include "desktop/Reference.hpp"
+#include "desktop/gtk/Reference.hpp"
 
 #include <utility>
 

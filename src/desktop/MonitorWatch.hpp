@@ -1,7 +1,7 @@
 #pragma once
 
-#include "desktop/Connect.hpp"
-#include "desktop/Mount.hpp"
+#include "desktop/gtk/Connect.hpp"
+#include "desktop/mount/Mount.hpp"
 
 #include <gtk/gtk.h>
 

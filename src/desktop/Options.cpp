@@ -1,7 +1,7 @@
 #include "desktop/Options.hpp"
 
-#include "platform/foundation/InstalledProgram.hpp"
-#include "platform/foundation/Message.hpp"
+#include "platform/foundation/bundle/InstalledProgram.hpp"
+#include "platform/foundation/localization/Message.hpp"
 
 #include <glib.h>
 

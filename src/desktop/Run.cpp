@@ -1,14 +1,14 @@
 #include "desktop/Run.hpp"
 
-#include "desktop/Connect.hpp"
 #include "desktop/Desk.hpp"
-#include "desktop/Mount.hpp"
 #include "desktop/Options.hpp"
-#include "desktop/Reference.hpp"
 #include "desktop/Style.hpp"
-#include "desktop/WindowingSystem.hpp"
+#include "desktop/gtk/Connect.hpp"
+#include "desktop/gtk/Reference.hpp"
+#include "desktop/mount/Mount.hpp"
+#include "desktop/mount/WindowingSystem.hpp"
 #include "platform/foundation/EnvironmentVariables.hpp"
-#include "platform/foundation/Message.hpp"
+#include "platform/foundation/localization/Message.hpp"
 
 #include <gio/gio.h>
 #include <glib-unix.h>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "desktop/Mount.hpp"
-#include "desktop/Reference.hpp"
+#include "desktop/gtk/Reference.hpp"
+#include "desktop/mount/Mount.hpp"
 #include "widgethost/Monitor.hpp"
 
 #include <gtk/gtk.h>

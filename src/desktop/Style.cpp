@@ -1,6 +1,6 @@
 #include "desktop/Style.hpp"
 
-#include "desktop/Reference.hpp"
+#include "desktop/gtk/Reference.hpp"
 
 #include <gtk/gtk.h>
 

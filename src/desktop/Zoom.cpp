@@ -1,6 +1,6 @@
 #include "desktop/Zoom.hpp"
 
-#include "desktop/Reference.hpp"
+#include "desktop/gtk/Reference.hpp"
 
 #include <algorithm>
 #include <cmath>

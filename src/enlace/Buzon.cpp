@@ -1,11 +1,11 @@
 #include "enlace/Buzon.hpp"
 
 #include "peticiones/Pedir.hpp"
-#include "platform/foundation/FileError.hpp"
-#include "platform/foundation/FileIdentity.hpp"
-#include "platform/foundation/NotificationObserver.hpp"
-#include "platform/foundation/ReadFile.hpp"
+#include "platform/foundation/files/FileError.hpp"
+#include "platform/foundation/files/FileIdentity.hpp"
+#include "platform/foundation/files/ReadFile.hpp"
 #include "platform/foundation/json/JSONDecoder.hpp"
+#include "platform/foundation/notifications/NotificationObserver.hpp"
 
 #include <exception>
 #include <optional>

@@ -2,7 +2,7 @@
 
 #include "estado/CargarEstado.hpp"
 #include "estado/GrupoDeApps.hpp"
-#include "platform/foundation/DefaultFileManager.hpp"
+#include "platform/foundation/files/DefaultFileManager.hpp"
 #include "platform/foundation/json/JSONEncoder.hpp"
 #include "platform/widgets/WidgetCenter.hpp"
 

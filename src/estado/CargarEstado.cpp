@@ -1,7 +1,7 @@
 #include "estado/CargarEstado.hpp"
 
 #include "estado/GrupoDeApps.hpp"
-#include "platform/foundation/FileError.hpp"
+#include "platform/foundation/files/FileError.hpp"
 #include "platform/foundation/json/JSONDecoder.hpp"
 
 namespace nurva {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/foundation/Bundle.hpp"
 #include "platform/foundation/Environment.hpp"
+#include "platform/foundation/bundle/Bundle.hpp"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #include "linea/Idioma.hpp"
 
-#include "platform/foundation/LocalizedString.hpp"
+#include "platform/foundation/localization/LocalizedString.hpp"
 #include "platform/views/view/BuildEnvironment.hpp"
 
 namespace nurva {

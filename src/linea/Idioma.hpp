@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/foundation/Bundle.hpp"
-#include "platform/foundation/FormatArgument.hpp"
+#include "platform/foundation/bundle/Bundle.hpp"
+#include "platform/foundation/localization/FormatArgument.hpp"
 
 #include <initializer_list>
 #include <optional>

@@ -1,7 +1,7 @@
 #include "peticiones/Pedir.hpp"
 
 #include "estado/GrupoDeApps.hpp"
-#include "platform/foundation/FileError.hpp"
+#include "platform/foundation/files/FileError.hpp"
 #include "platform/foundation/json/JSONEncoder.hpp"
 
 namespace nurva {

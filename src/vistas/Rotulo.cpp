@@ -1,6 +1,6 @@
 #include "vistas/Rotulo.hpp"
 
-#include "platform/foundation/UnicodeText.hpp"
+#include "platform/foundation/text/UnicodeText.hpp"
 #include "platform/views/text/Text.hpp"
 #include "vistas/Sistema.hpp"
 #include "vistas/WO.hpp"

@@ -1,7 +1,7 @@
 #include "vistas/TuCuartoVista.hpp"
 
 #include "linea/Idioma.hpp"
-#include "platform/foundation/NumberFormat.hpp"
+#include "platform/foundation/localization/NumberFormat.hpp"
 #include "platform/views/stacks/Spacer.hpp"
 #include "platform/views/stacks/Stacks.hpp"
 #include "platform/views/text/Text.hpp"

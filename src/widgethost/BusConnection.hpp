@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/SessionBus.hpp"
+#include "platform/foundation/notifications/SessionBus.hpp"
 #include "widgethost/MainLoop.hpp"
 
 #include <functional>

@@ -1,7 +1,7 @@
 #include "widgethost/ContainerWatch.hpp"
 
-#include "platform/foundation/DefaultFileManager.hpp"
-#include "platform/foundation/Entitlements.hpp"
+#include "platform/foundation/bundle/Entitlements.hpp"
+#include "platform/foundation/files/DefaultFileManager.hpp"
 
 namespace widgethost {
 

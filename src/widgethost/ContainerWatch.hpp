@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/Bundle.hpp"
+#include "platform/foundation/bundle/Bundle.hpp"
 #include "widgethost/FolderWatch.hpp"
 
 #include <list>

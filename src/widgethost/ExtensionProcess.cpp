@@ -1,6 +1,6 @@
 #include "widgethost/ExtensionProcess.hpp"
 
-#include "platform/foundation/Bundle.hpp"
+#include "platform/foundation/bundle/Bundle.hpp"
 #include "platform/remote/Protocol.hpp"
 
 #include <poll.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/FileDescriptor.hpp"
+#include "platform/foundation/files/FileDescriptor.hpp"
 #include "widgethost/MainLoop.hpp"
 
 #include <filesystem>

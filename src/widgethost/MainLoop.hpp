@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/foundation/Date.hpp"
-#include "platform/foundation/FileDescriptor.hpp"
+#include "platform/foundation/files/FileDescriptor.hpp"
 
 #include <chrono>
 #include <functional>

@@ -1,11 +1,11 @@
 #include "widgethost/PlacementFile.hpp"
 
-#include "platform/foundation/FileError.hpp"
-#include "platform/foundation/Message.hpp"
-#include "platform/foundation/ReadFile.hpp"
-#include "platform/foundation/WriteFile.hpp"
+#include "platform/foundation/files/FileError.hpp"
+#include "platform/foundation/files/ReadFile.hpp"
+#include "platform/foundation/files/WriteFile.hpp"
 #include "platform/foundation/json/JSONDecoder.hpp"
 #include "platform/foundation/json/JSONEncoder.hpp"
+#include "platform/foundation/localization/Message.hpp"
 
 #include <cerrno>
 #include <system_error>

@@ -1,6 +1,6 @@
 #include "widgethost/SessionContents.hpp"
 
-#include "platform/foundation/Entitlements.hpp"
+#include "platform/foundation/bundle/Entitlements.hpp"
 #include "widgethost/ContainerWatch.hpp"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "widgethost/Supervisor.hpp"
 
-#include "platform/foundation/Message.hpp"
+#include "platform/foundation/localization/Message.hpp"
 
 #include <algorithm>
 #include <chrono>

@@ -1,7 +1,7 @@
 #include "widgethost/WidgetCenterService.hpp"
 
-#include "platform/foundation/Message.hpp"
-#include "platform/foundation/NotificationName.hpp"
+#include "platform/foundation/localization/Message.hpp"
+#include "platform/foundation/notifications/NotificationName.hpp"
 #include "platform/widgets/WidgetCenter.hpp"
 
 #include <algorithm>

@@ -1,9 +1,9 @@
 #include "anfitrion/Bucle.hpp"
 #include "estado/CargarEstado.hpp"
 #include "peticiones/Pedir.hpp"
-#include "platform/foundation/DefaultFileManager.hpp"
-#include "platform/foundation/SessionBusNotificationCenter.hpp"
 #include "platform/foundation/SystemClock.hpp"
+#include "platform/foundation/files/DefaultFileManager.hpp"
+#include "platform/foundation/notifications/SessionBusNotificationCenter.hpp"
 #include "support/PrivateSessionBus.hpp"
 #include "support/World.hpp"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/LocalizedFormat.hpp"
+#include "platform/foundation/localization/LocalizedFormat.hpp"
 
 #include <map>
 #include <regex>

@@ -1,5 +1,5 @@
 #include "cli/TextFormats.hpp"
-#include "platform/foundation/PluralCategory.hpp"
+#include "platform/foundation/localization/PluralCategory.hpp"
 #include "support/Program.hpp"
 #include "support/World.hpp"
 

@@ -1,7 +1,7 @@
 #include "contract/UserWithBus.hpp"
 #include "enlace/Buzon.hpp"
-#include "platform/foundation/SessionBusNotificationCenter.hpp"
-#include "platform/foundation/WriteFile.hpp"
+#include "platform/foundation/files/WriteFile.hpp"
+#include "platform/foundation/notifications/SessionBusNotificationCenter.hpp"
 #include "support/Patience.hpp"
 
 #include <gtest/gtest.h>

@@ -3,9 +3,9 @@
 #include "estado/GrupoDeApps.hpp"
 #include "estado/Snapshots.hpp"
 #include "peticiones/Pedir.hpp"
-#include "platform/foundation/NotificationName.hpp"
-#include "platform/foundation/ReadFile.hpp"
+#include "platform/foundation/files/ReadFile.hpp"
 #include "platform/foundation/json/JSONDecoder.hpp"
+#include "platform/foundation/notifications/NotificationName.hpp"
 #include "vistas/Cara.hpp"
 
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
 #include "contract/UserWithBus.hpp"
 #include "enlace/Publicador.hpp"
-#include "platform/foundation/ReadFile.hpp"
-#include "platform/foundation/SessionBus.hpp"
 #include "platform/foundation/SystemClock.hpp"
+#include "platform/foundation/files/ReadFile.hpp"
 #include "platform/foundation/json/JSONDecoder.hpp"
+#include "platform/foundation/notifications/SessionBus.hpp"
 #include "support/Patience.hpp"
 
 #include <gtest/gtest.h>

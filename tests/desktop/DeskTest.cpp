@@ -1,7 +1,7 @@
 #include "desktop/Desk.hpp"
 #include "desktop/PaintedWidgets.hpp"
 #include "desktop/TestScreen.hpp"
-#include "desktop/X11Mount.hpp"
+#include "desktop/mount/X11Mount.hpp"
 #include "support/TemporaryFolder.hpp"
 
 #include <gmock/gmock.h>

@@ -1,7 +1,7 @@
 #include "desktop/MonitorWatch.hpp"
-#include "desktop/Reference.hpp"
 #include "desktop/TestScreen.hpp"
-#include "desktop/X11Mount.hpp"
+#include "desktop/gtk/Reference.hpp"
+#include "desktop/mount/X11Mount.hpp"
 
 #include <gtest/gtest.h>
 

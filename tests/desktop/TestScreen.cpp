@@ -1,8 +1,8 @@
 #include "desktop/TestScreen.hpp"
 
-#include "desktop/Connect.hpp"
-#include "desktop/Reference.hpp"
 #include "desktop/Style.hpp"
+#include "desktop/gtk/Connect.hpp"
+#include "desktop/gtk/Reference.hpp"
 #include "support/ManagedScreen.hpp"
 #include "support/Patience.hpp"
 

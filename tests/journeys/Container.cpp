@@ -2,8 +2,8 @@
 
 #include "anfitrion/Escena.hpp"
 #include "peticiones/Peticion.hpp"
-#include "platform/foundation/DefaultFileManager.hpp"
 #include "platform/foundation/SystemClock.hpp"
+#include "platform/foundation/files/DefaultFileManager.hpp"
 #include "platform/foundation/json/DecodingError.hpp"
 #include "platform/foundation/json/JSONDecoder.hpp"
 #include "platform/foundation/json/JSONEncoder.hpp"

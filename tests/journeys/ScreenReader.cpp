@@ -1,7 +1,7 @@
 #include "journeys/ScreenReader.hpp"
 
 #include "journeys/Waiting.hpp"
-#include "platform/foundation/SessionBus.hpp"
+#include "platform/foundation/notifications/SessionBus.hpp"
 #include "platform/remote/Wire.hpp"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "journeys/Picture.hpp"
-#include "platform/foundation/SessionBus.hpp"
+#include "platform/foundation/notifications/SessionBus.hpp"
 
 #include <optional>
 #include <string>

@@ -1,5 +1,5 @@
 #include "linea/Idioma.hpp"
-#include "platform/foundation/LocalizedString.hpp"
+#include "platform/foundation/localization/LocalizedString.hpp"
 #include "platform/views/view/BuildEnvironment.hpp"
 #include "support/TemporaryFolder.hpp"
 #include "support/World.hpp"

@@ -1,8 +1,8 @@
 // Many actions at once, into a real folder, with readers that look all the time.
 
 #include "peticiones/Pedir.hpp"
-#include "platform/foundation/DefaultFileManager.hpp"
-#include "platform/foundation/ReadFile.hpp"
+#include "platform/foundation/files/DefaultFileManager.hpp"
+#include "platform/foundation/files/ReadFile.hpp"
 #include "platform/foundation/json/JSONDecoder.hpp"
 #include "support/TemporaryFolder.hpp"
 #include "support/World.hpp"

@@ -1,5 +1,5 @@
 #include "peticiones/Pedir.hpp"
-#include "platform/foundation/DefaultFileManager.hpp"
+#include "platform/foundation/files/DefaultFileManager.hpp"
 #include "support/TemporaryFolder.hpp"
 #include "support/World.hpp"
 

@@ -1,4 +1,4 @@
-#include "platform/foundation/ReadFile.hpp"
+#include "platform/foundation/files/ReadFile.hpp"
 #include "platform/foundation/json/JSONEncoder.hpp"
 #include "processes/Stage.hpp"
 

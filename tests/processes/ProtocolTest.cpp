@@ -1,4 +1,4 @@
-#include "platform/foundation/SessionBus.hpp"
+#include "platform/foundation/notifications/SessionBus.hpp"
 #include "platform/remote/Connection.hpp"
 #include "platform/remote/PictureMemory.hpp"
 #include "platform/remote/Protocol.hpp"

@@ -1,5 +1,5 @@
-#include "platform/foundation/NotificationObserver.hpp"
-#include "platform/foundation/SessionBusNotificationCenter.hpp"
+#include "platform/foundation/notifications/NotificationObserver.hpp"
+#include "platform/foundation/notifications/SessionBusNotificationCenter.hpp"
 #include "processes/Stage.hpp"
 #include "support/Program.hpp"
 

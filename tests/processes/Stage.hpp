@@ -1,7 +1,7 @@
 #pragma once
 
 #include "estado/EstadoParaWidgets.hpp"
-#include "platform/foundation/DefaultFileManager.hpp"
+#include "platform/foundation/files/DefaultFileManager.hpp"
 #include "support/Patience.hpp"
 #include "support/PrivateSessionBus.hpp"
 #include "support/TemporaryFolder.hpp"

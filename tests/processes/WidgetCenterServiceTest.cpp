@@ -1,4 +1,4 @@
-#include "platform/foundation/SessionBus.hpp"
+#include "platform/foundation/notifications/SessionBus.hpp"
 #include "platform/widgets/WidgetCenter.hpp"
 #include "processes/Stage.hpp"
 #include "widgethost/WidgetCenterService.hpp"

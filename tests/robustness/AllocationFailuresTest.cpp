@@ -1,7 +1,7 @@
 // What happens when there is no memory left, at every place where some is asked for.
 
-#include "platform/foundation/NotificationObserver.hpp"
-#include "platform/foundation/SessionBusNotificationCenter.hpp"
+#include "platform/foundation/notifications/NotificationObserver.hpp"
+#include "platform/foundation/notifications/SessionBusNotificationCenter.hpp"
 #include "robustness/FailingAllocation.hpp"
 #include "robustness/KeptPlacement.hpp"
 #include "robustness/Workplace.hpp"

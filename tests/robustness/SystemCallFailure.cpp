@@ -1,6 +1,6 @@
 #include "robustness/SystemCallFailure.hpp"
 
-#include "platform/foundation/FileDescriptor.hpp"
+#include "platform/foundation/files/FileDescriptor.hpp"
 
 #include <linux/filter.h>
 #include <linux/seccomp.h>

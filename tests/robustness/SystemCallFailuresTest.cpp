@@ -1,7 +1,7 @@
 // What happens when the system refuses, at every call that is made of it.
 
-#include "platform/foundation/NotificationObserver.hpp"
-#include "platform/foundation/SessionBusNotificationCenter.hpp"
+#include "platform/foundation/notifications/NotificationObserver.hpp"
+#include "platform/foundation/notifications/SessionBusNotificationCenter.hpp"
 #include "robustness/KeptPlacement.hpp"
 #include "robustness/SystemCallFailure.hpp"
 #include "robustness/Workplace.hpp"

@@ -2,7 +2,7 @@
 
 #include "estado/CargarEstado.hpp"
 #include "peticiones/Pedir.hpp"
-#include "platform/foundation/ReadFile.hpp"
+#include "platform/foundation/files/ReadFile.hpp"
 #include "platform/foundation/json/JSONDecoder.hpp"
 #include "platform/foundation/json/JSONEncoder.hpp"
 

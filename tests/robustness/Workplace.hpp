@@ -2,7 +2,7 @@
 
 #include "estado/EstadoParaWidgets.hpp"
 #include "peticiones/Peticion.hpp"
-#include "platform/foundation/DefaultFileManager.hpp"
+#include "platform/foundation/files/DefaultFileManager.hpp"
 #include "support/TemporaryFolder.hpp"
 #include "support/World.hpp"
 

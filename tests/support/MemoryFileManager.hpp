@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/foundation/FileError.hpp"
-#include "platform/foundation/FileManager.hpp"
+#include "platform/foundation/files/FileError.hpp"
+#include "platform/foundation/files/FileManager.hpp"
 
 #include <atomic>
 #include <cerrno>

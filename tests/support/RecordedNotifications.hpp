@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/DistributedNotificationCenter.hpp"
+#include "platform/foundation/notifications/DistributedNotificationCenter.hpp"
 
 #include <mutex>
 #include <string>

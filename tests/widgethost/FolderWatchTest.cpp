@@ -1,4 +1,4 @@
-#include "platform/foundation/WriteFile.hpp"
+#include "platform/foundation/files/WriteFile.hpp"
 #include "support/TemporaryFolder.hpp"
 #include "widgethost/FolderWatch.hpp"
 

@@ -32,7 +32,7 @@ SUITES = [
                 "ShortNumber.hpp",
             )
         ]
-        + ["src/platform/foundation/UTF8.cpp"],
+        + ["src/platform/foundation/text/UTF8.cpp"],
         [
             ("foundation_test", "JSON*:TaggedUnion*:UTF8*"),
             ("estado_test", "*"),
@@ -62,7 +62,10 @@ SUITES = [
     ),
     Suite(
         "rounding",
-        ["src/platform/foundation/Format.cpp", "src/platform/foundation/NumberFormat.cpp"],
+        [
+            "src/platform/foundation/localization/Format.cpp",
+            "src/platform/foundation/localization/NumberFormat.cpp",
+        ],
         [("foundation_test", "Format*:NumberFormat*:Localized*:Bundle*"), ("vistas_test", "*")],
     ),
     Suite(

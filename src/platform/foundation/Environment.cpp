@@ -1,8 +1,8 @@
 #include "platform/foundation/Environment.hpp"
 
-#include "platform/foundation/DefaultFileManager.hpp"
-#include "platform/foundation/SessionBusNotificationCenter.hpp"
 #include "platform/foundation/SystemClock.hpp"
+#include "platform/foundation/files/DefaultFileManager.hpp"
+#include "platform/foundation/notifications/SessionBusNotificationCenter.hpp"
 
 namespace foundation {
 

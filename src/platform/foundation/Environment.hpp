@@ -1,10 +1,10 @@
 #pragma once
 
-#include "platform/foundation/Bundle.hpp"
 #include "platform/foundation/Clock.hpp"
-#include "platform/foundation/DistributedNotificationCenter.hpp"
-#include "platform/foundation/FileManager.hpp"
-#include "platform/foundation/Locale.hpp"
+#include "platform/foundation/bundle/Bundle.hpp"
+#include "platform/foundation/files/FileManager.hpp"
+#include "platform/foundation/localization/Locale.hpp"
+#include "platform/foundation/notifications/DistributedNotificationCenter.hpp"
 
 namespace foundation {
 

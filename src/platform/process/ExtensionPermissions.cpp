@@ -1,9 +1,9 @@
 #include "platform/process/ExtensionPermissions.hpp"
 
 #include "platform/canvas/FontFolders.hpp"
-#include "platform/foundation/Bundle.hpp"
-#include "platform/foundation/DefaultFileManager.hpp"
-#include "platform/foundation/Entitlements.hpp"
+#include "platform/foundation/bundle/Bundle.hpp"
+#include "platform/foundation/bundle/Entitlements.hpp"
+#include "platform/foundation/files/DefaultFileManager.hpp"
 
 namespace process {
 

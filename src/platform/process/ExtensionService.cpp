@@ -1,6 +1,6 @@
 #include "platform/process/ExtensionService.hpp"
 
-#include "platform/foundation/LocalizedString.hpp"
+#include "platform/foundation/localization/LocalizedString.hpp"
 #include "platform/remote/Protocol.hpp"
 
 #include <fcntl.h>

@@ -3,7 +3,7 @@
 #include "platform/canvas/PangoTextMeasurer.hpp"
 #include "platform/canvas/PixelCanvas.hpp"
 #include "platform/foundation/Environment.hpp"
-#include "platform/foundation/SessionBus.hpp"
+#include "platform/foundation/notifications/SessionBus.hpp"
 #include "platform/intents/ActionRuntime.hpp"
 #include "platform/process/Extension.hpp"
 #include "platform/process/LoopTasks.hpp"

@@ -1,7 +1,7 @@
 #include "platform/process/NSExtensionMain.hpp"
 
-#include "platform/foundation/FileDescriptor.hpp"
-#include "platform/foundation/Message.hpp"
+#include "platform/foundation/files/FileDescriptor.hpp"
+#include "platform/foundation/localization/Message.hpp"
 #include "platform/process/ExtensionPermissions.hpp"
 #include "platform/process/RequestLoop.hpp"
 #include "platform/remote/Protocol.hpp"

@@ -1,6 +1,6 @@
 #include "platform/process/RequestLoop.hpp"
 
-#include "platform/foundation/SessionBus.hpp"
+#include "platform/foundation/notifications/SessionBus.hpp"
 #include "platform/intents/IntentError.hpp"
 #include "platform/process/ExtensionService.hpp"
 #include "platform/process/ForwardedNotifications.hpp"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/foundation/Environment.hpp"
-#include "platform/foundation/FileDescriptor.hpp"
+#include "platform/foundation/files/FileDescriptor.hpp"
 #include "platform/process/Extension.hpp"
 
 namespace process {

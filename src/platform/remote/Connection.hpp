@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/foundation/FileDescriptor.hpp"
-#include "platform/foundation/SessionBus.hpp"
+#include "platform/foundation/files/FileDescriptor.hpp"
+#include "platform/foundation/notifications/SessionBus.hpp"
 
 namespace remote {
 

@@ -1,6 +1,6 @@
 #include "platform/sandbox/Landlock.hpp"
 
-#include "platform/foundation/FileDescriptor.hpp"
+#include "platform/foundation/files/FileDescriptor.hpp"
 #include "platform/sandbox/LandlockRights.hpp"
 
 #include <fcntl.h>

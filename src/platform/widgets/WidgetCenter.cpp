@@ -1,6 +1,6 @@
 #include "platform/widgets/WidgetCenter.hpp"
 
-#include "platform/foundation/SessionBus.hpp"
+#include "platform/foundation/notifications/SessionBus.hpp"
 
 #include <systemd/sd-bus.h>
 

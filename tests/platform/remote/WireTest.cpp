@@ -1,4 +1,4 @@
-#include "platform/foundation/SessionBus.hpp"
+#include "platform/foundation/notifications/SessionBus.hpp"
 #include "platform/remote/Wire.hpp"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "platform/foundation/WriteFile.hpp"
+#include "platform/foundation/files/WriteFile.hpp"
 #include "platform/sandbox/Child.hpp"
 #include "platform/sandbox/Landlock.hpp"
 #include "platform/sandbox/LandlockProbes.hpp"

@@ -1,5 +1,5 @@
-#include "platform/foundation/ReadFile.hpp"
-#include "platform/foundation/WriteFile.hpp"
+#include "platform/foundation/files/ReadFile.hpp"
+#include "platform/foundation/files/WriteFile.hpp"
 #include "platform/sandbox/Child.hpp"
 #include "platform/sandbox/Confinement.hpp"
 #include "platform/sandbox/Grounds.hpp"

@@ -1,4 +1,4 @@
-#include "platform/foundation/SessionBus.hpp"
+#include "platform/foundation/notifications/SessionBus.hpp"
 #include "platform/widgets/WidgetCenter.hpp"
 #include "support/Patience.hpp"
 #include "support/PrivateSessionBus.hpp"

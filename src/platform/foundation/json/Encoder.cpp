@@ -1,7 +1,7 @@
 #include "platform/foundation/json/Encoder.hpp"
 
-#include "platform/foundation/UTF8.hpp"
 #include "platform/foundation/json/EncodingError.hpp"
+#include "platform/foundation/text/UTF8.hpp"
 
 #include <array>
 #include <charconv>

@@ -1,6 +1,6 @@
 #include "platform/foundation/json/JSONString.hpp"
 
-#include "platform/foundation/UTF8.hpp"
+#include "platform/foundation/text/UTF8.hpp"
 
 #include <algorithm>
 #include <bit>

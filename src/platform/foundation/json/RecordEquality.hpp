@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/foundation/UnicodeText.hpp"
 #include "platform/foundation/json/CodingKey.hpp"
+#include "platform/foundation/text/UnicodeText.hpp"
 
 #include <algorithm>
 #include <optional>

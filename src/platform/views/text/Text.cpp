@@ -1,6 +1,6 @@
 #include "platform/views/text/Text.hpp"
 
-#include "platform/foundation/LocalizedString.hpp"
+#include "platform/foundation/localization/LocalizedString.hpp"
 #include "platform/views/layout/LayoutContext.hpp"
 #include "platform/views/scene/Recorder.hpp"
 #include "platform/views/view/BuildEnvironment.hpp"

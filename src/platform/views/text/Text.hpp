@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/FormatArgument.hpp"
+#include "platform/foundation/localization/FormatArgument.hpp"
 #include "platform/views/text/Lettering.hpp"
 #include "platform/views/text/TextLayout.hpp"
 #include "platform/views/view/View.hpp"

@@ -1,0 +1,12 @@
+#include "platform/foundation/files/FileDescriptor.hpp"
+
+#include <unistd.h>
+
+namespace foundation {
+
+FileDescriptor::~FileDescriptor() {
+    if (number_ >= 0)
+        ::close(number_);
+}
+
+}  // namespace foundation
