@@ -4,6 +4,7 @@
 #include "estado/CargarEstado.hpp"
 #include "estado/GrupoDeApps.hpp"
 #include "peticiones/Peticion.hpp"
+#include "platform/foundation/files/DefaultFileManager.hpp"
 #include "platform/foundation/files/FileError.hpp"
 #include "platform/foundation/json/JSONDecoder.hpp"
 
@@ -90,12 +91,18 @@ std::string text(const std::string& file, const Refusal& refusal) {
                    {file, refusal.kind, refusal.path, refusal.reason});
 }
 
+std::string homeIsMissing() {
+    return message("no se sabe cuál es tu carpeta: falta HOME");
+}
+
 std::optional<std::string> whyNoSnapshot(const foundation::Environment& environment,
                                          const std::optional<std::string>& given) {
     const std::string& group = nurva::GrupoDeApps::id(environment);
     const auto container = environment.fileManager.containerURL(group);
     if (!container)
-        return message("no existe el contenedor del grupo %@; abre Nurva una vez", {group});
+        return foundation::DefaultFileManager().containerPlace(group)
+                   ? message("no existe el contenedor del grupo %@; abre Nurva una vez", {group})
+                   : homeIsMissing();
     const std::filesystem::path file = *container / nurva::archivoDeEstado;
     const auto report = reportOn<nurva::EstadoParaWidgets>(environment.fileManager, file);
     if (!report.refusal)

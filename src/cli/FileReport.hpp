@@ -29,6 +29,9 @@ FileReport<Value> reportOn(const foundation::FileManager& files, const std::file
 /// One line saying why a file was refused.
 std::string text(const std::string& file, const Refusal& refusal);
 
+/// What to say where the user's folder is not known, in which the container would lie.
+std::string homeIsMissing();
+
 /// Why the widgets have no snapshot in this environment; nothing where they have one. Names the
 /// file as it was given, or where it lies in the container.
 std::optional<std::string> whyNoSnapshot(const foundation::Environment& environment,

@@ -1,6 +1,7 @@
 #include "anfitrion/Bucle.hpp"
 #include "cli/Commands.hpp"
 #include "cli/Failure.hpp"
+#include "cli/FileReport.hpp"
 #include "cli/Message.hpp"
 #include "estado/GrupoDeApps.hpp"
 #include "platform/foundation/files/DefaultFileManager.hpp"
@@ -45,8 +46,11 @@ void host(const HostOptions& options) {
     anfitrion::Escena scene = sceneNamed(options.scene);
     const foundation::Environment environment = foundation::processEnvironment();
     try {
-        const auto container =
-            foundation::DefaultFileManager().createContainer(nurva::GrupoDeApps::id(environment));
+        const foundation::DefaultFileManager files;
+        const std::string& group = nurva::GrupoDeApps::id(environment);
+        if (!files.containerPlace(group))
+            throw Failure(ExitStatus::couldNot, homeIsMissing());
+        const auto container = files.createContainer(group);
         std::cerr << "nurva: " << message("anfitrión de demostración en %@", {container.string()})
                   << std::endl;
         anfitrion::representar(std::move(scene), container, environment,
@@ -54,10 +58,6 @@ void host(const HostOptions& options) {
                                    std::cerr << "nurva: " << message(key, arguments) << std::endl;
                                });
     } catch (const foundation::FileError& error) {
-        // Only the group: there is no folder of the user's in which its container would lie.
-        if (error.path().is_relative())
-            throw Failure(ExitStatus::couldNot,
-                          message("no se sabe cuál es tu carpeta: falta HOME"));
         throw Failure(ExitStatus::couldNot,
                       message("no se puede crear el contenedor %@: %@",
                               {error.path().string(), std::string(std::strerror(error.code()))}));

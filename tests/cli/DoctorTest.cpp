@@ -42,6 +42,15 @@ TEST_F(Doctor, SaysWhatIsMissingAndWhatToDo) {
     EXPECT_TRUE(says(outcome, "· no hay pantalla")) << outcome.output;
 }
 
+TEST_F(Doctor, AsksNobodyToOpenTheHostWhereTheFolderIsUnknown) {
+    const Outcome outcome = support::run(
+        "dbus-run-session -- env -u LANGUAGE -u LC_ALL -u HOME -u XDG_DATA_HOME "
+        "LANG=es_ES.UTF-8 " NURVA_PROGRAM " doctor");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_TRUE(says(outcome, "✗ no se sabe cuál es tu carpeta: falta HOME")) << outcome.output;
+    EXPECT_FALSE(says(outcome, "abre Nurva")) << outcome.output;
+}
+
 TEST_F(Doctor, TellsWhyASnapshotIsRefused) {
     json broken = snapshot();
     broken.erase("salida");
