@@ -2,6 +2,11 @@
 
 #include "platform/foundation/bundle/Entitlements.hpp"
 #include "platform/foundation/files/DefaultFileManager.hpp"
+#include "platform/foundation/localization/Message.hpp"
+
+#include <iostream>
+#include <system_error>
+#include <utility>
 
 namespace widgethost {
 
@@ -17,6 +22,24 @@ std::vector<std::string> reloadFiles(const foundation::Bundle& bundle) {
                                         : attributes->second.strings("WidgetReloadFiles");
 }
 
+/// Adds a watch. Where the system has none left the widgets do without: the host application's own
+/// calls and the timelines still reload them.
+void watch(std::list<FolderWatch>& watches,
+           const std::filesystem::path& container,
+           std::vector<std::string> files,
+           const FolderWatch::Events& events) {
+    try {
+        watches.emplace_back(container, std::move(files), events);
+    } catch (const std::system_error& error) {
+        std::cerr << "nurva: "
+                  << foundation::message(
+                         "no se puede vigilar %@ (%@): los widgets tardarán en ponerse al día; "
+                         "cierra programas o sube los límites fs.inotify",
+                         {container.string(), std::string(error.what())})
+                  << std::endl;
+    }
+}
+
 }  // namespace
 
 std::list<FolderWatch> watchContainers(const foundation::Bundle& bundle,
@@ -25,7 +48,7 @@ std::list<FolderWatch> watchContainers(const foundation::Bundle& bundle,
     const foundation::DefaultFileManager files;
     for (const std::string& group : foundation::Entitlements::of(bundle).applicationGroups)
         if (const auto container = files.containerPlace(group))
-            watches.emplace_back(*container, reloadFiles(bundle), events);
+            watch(watches, *container, reloadFiles(bundle), events);
     return watches;
 }
 

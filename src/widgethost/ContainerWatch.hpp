@@ -8,8 +8,8 @@
 namespace widgethost {
 
 /// Watches the containers of the groups that an extension's bundle is entitled to, for the files
-/// that the bundle calls a reason to reload. Throws std::system_error where the system has no watch
-/// left.
+/// that the bundle calls a reason to reload. Where the system has no watch left it says so on
+/// standard error, and a container goes unwatched.
 std::list<FolderWatch> watchContainers(const foundation::Bundle& bundle,
                                        const FolderWatch::Events& events);
 
