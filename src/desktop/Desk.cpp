@@ -227,9 +227,12 @@ void Desk::updateGallery() {
 /// Takes the screens as they are now, and the scale that they ask for.
 void Desk::adapt() {
     const double units = unitsPerPoint(surroundings_.display, surroundings_.scale);
-    if (std::exchange(unitsPerPoint_, units) != units)
+    if (std::exchange(unitsPerPoint_, units) != units) {
         for (const auto& card : cards_)
             card->setUnitsPerPoint(units);
+        if (gallery_)
+            gallery_->setUnitsPerPoint(units);
+    }
     arrange();
 }
 

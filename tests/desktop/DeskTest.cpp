@@ -142,6 +142,25 @@ TEST_F(DeskOnScreen, AWantedScaleIsKeptWhereTheScreensBecomeOthers) {
     EXPECT_TRUE(takes(340));
 }
 
+TEST_F(DeskOnScreen, AnOpenGalleryTakesTheScaleOfTheScreens) {
+    remember({{"a", {0, 0}}});
+    scale = 2;
+    open();
+    desk->openGallery();
+    const auto takes = [&](int units) {
+        return screen::waitFor([&] {
+            const auto pictures =
+                screen::under(GTK_WIDGET(desk->gallery()->window()), screen::isPicture);
+            return !pictures.empty() && gtk_widget_get_width(pictures.front()) == units;
+        });
+    };
+    EXPECT_TRUE(takes(340));
+    gdk_x11_display_set_surface_scale(gdk_display_get_default(), 2);
+    EXPECT_TRUE(takes(170));
+    gdk_x11_display_set_surface_scale(gdk_display_get_default(), 1);
+    EXPECT_TRUE(takes(340));
+}
+
 TEST_F(DeskOnScreen, AWidgetDraggedByItsBackgroundSnapsToTheGrid) {
     remember({{"a", {0, 0}}, {"c", {5, 3}}});
     open();

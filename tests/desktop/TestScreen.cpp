@@ -157,6 +157,23 @@ bool hasState(WindowNumber window, const char* state) {
            states.end();
 }
 
+std::vector<GtkWidget*> under(GtkWidget* widget, const std::function<bool(GtkWidget*)>& condition) {
+    std::vector<GtkWidget*> found;
+    for (GtkWidget* child = gtk_widget_get_first_child(widget); child;
+         child = gtk_widget_get_next_sibling(child)) {
+        if (condition(child))
+            found.push_back(child);
+        const auto inside = under(child, condition);
+        found.insert(found.end(), inside.begin(), inside.end());
+    }
+    return found;
+}
+
+bool isPicture(GtkWidget* widget) {
+    return gtk_test_accessible_has_role(GTK_ACCESSIBLE(widget), GTK_ACCESSIBLE_ROLE_IMG) &&
+           gtk_widget_get_width(widget) >= 170;
+}
+
 bool isCalled(GtkWidget* widget, const std::string& name) {
     const std::unique_ptr<char, decltype(&g_free)> fault(
         gtk_test_accessible_check_property(GTK_ACCESSIBLE(widget), GTK_ACCESSIBLE_PROPERTY_LABEL,

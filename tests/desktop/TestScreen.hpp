@@ -38,6 +38,12 @@ std::uint32_t pixel(int x, int y);
 std::vector<unsigned long> property(WindowNumber window, const char* name);
 bool hasState(WindowNumber window, const char* state);
 
+/// The widgets under another that answer to a condition, in their order.
+std::vector<GtkWidget*> under(GtkWidget* widget, const std::function<bool(GtkWidget*)>& condition);
+
+/// Whether a widget is a picture, as wide as a small card at least.
+bool isPicture(GtkWidget* widget);
+
 /// Whether a screen reader is told this name of a widget.
 bool isCalled(GtkWidget* widget, const std::string& name);
 

@@ -61,6 +61,10 @@ void Gallery::showWidgets() {
     offers_.show();
 }
 
+void Gallery::setUnitsPerPoint(double units) {
+    offers_.setUnitsPerPoint(units);
+}
+
 void Gallery::showPlaced(const std::vector<std::string>& names) {
     if (names == names_)
         return;

@@ -36,6 +36,8 @@ class Gallery {
     /// Shows the widgets that the source has now.
     void showWidgets();
 
+    void setUnitsPerPoint(double units);
+
     /// Shows the names of the widgets on the desktop.
     void showPlaced(const std::vector<std::string>& names);
 

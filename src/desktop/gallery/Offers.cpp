@@ -28,6 +28,11 @@ void Offers::show() {
                        newText(message("Aún no hay ningún widget que enseñar."), "dim-label"));
 }
 
+void Offers::setUnitsPerPoint(double units) {
+    unitsPerPoint_ = units;
+    show();
+}
+
 GtkWidget* Offers::offer(const remote::WidgetDescription& widget) {
     GtkWidget* words = gtk_box_new(GTK_ORIENTATION_VERTICAL, 6);
     gtk_widget_set_valign(words, GTK_ALIGN_CENTER);

@@ -25,6 +25,7 @@ class Offers {
 
     /// Shows the widgets that the source has now.
     void show();
+    void setUnitsPerPoint(double units);
 
   private:
     struct Sample {

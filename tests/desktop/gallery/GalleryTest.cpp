@@ -19,39 +19,16 @@ struct GalleryOnScreen : testing::Test {
         screen::settle();
     }
 
-    /// Widgets under another that answer to a condition, in their order.
-    static void find(GtkWidget* in,
-                     const std::function<bool(GtkWidget*)>& condition,
-                     std::vector<GtkWidget*>& found) {
-        for (GtkWidget* child = gtk_widget_get_first_child(in); child;
-             child = gtk_widget_get_next_sibling(child)) {
-            if (condition(child))
-                found.push_back(child);
-            find(child, condition, found);
-        }
+    std::vector<GtkWidget*> inside(const std::function<bool(GtkWidget*)>& condition) {
+        return screen::under(GTK_WIDGET(gallery.window()), condition);
     }
     std::vector<GtkWidget*> labelled(const std::string& label) {
-        std::vector<GtkWidget*> found;
-        find(
-            GTK_WIDGET(gallery.window()),
-            [&](GtkWidget* widget) {
-                return GTK_IS_BUTTON(widget) && screen::isCalled(widget, label);
-            },
-            found);
-        return found;
+        return inside([&](GtkWidget* widget) {
+            return GTK_IS_BUTTON(widget) && screen::isCalled(widget, label);
+        });
     }
-    std::vector<GtkWidget*> pictures() {
-        std::vector<GtkWidget*> found;
-        find(
-            GTK_WIDGET(gallery.window()),
-            [](GtkWidget* widget) {
-                return gtk_test_accessible_has_role(GTK_ACCESSIBLE(widget),
-                                                    GTK_ACCESSIBLE_ROLE_IMG) &&
-                       gtk_widget_get_width(widget) >= 170;
-            },
-            found);
-        return found;
-    }
+    std::vector<GtkWidget*> pictures() { return inside(screen::isPicture); }
+
     PaintedWidgets source;
     std::vector<std::string> requests;
     Gallery gallery{
@@ -110,15 +87,10 @@ TEST_F(GalleryOnScreen, ListsWhatStandsOnTheDesktop) {
 
 TEST_F(GalleryOnScreen, SaysSomethingUntilTheListIsAnotherOne) {
     const auto isSaid = [&] {
-        std::vector<GtkWidget*> found;
-        find(
-            GTK_WIDGET(gallery.window()),
-            [](GtkWidget* widget) {
-                return GTK_IS_LABEL(widget) && gtk_widget_get_mapped(widget) &&
-                       gtk_label_get_text(GTK_LABEL(widget)) == std::string("No cabe");
-            },
-            found);
-        return found.size() == 1;
+        return inside([](GtkWidget* widget) {
+                   return GTK_IS_LABEL(widget) && gtk_widget_get_mapped(widget) &&
+                          gtk_label_get_text(GTK_LABEL(widget)) == std::string("No cabe");
+               }).size() == 1;
     };
     EXPECT_FALSE(isSaid());
     gallery.say("No cabe");
@@ -143,6 +115,15 @@ TEST_F(GalleryOnScreen, ShowsTheWidgetsThatComeLater) {
     gallery.showWidgets();
     screen::settle();
     EXPECT_TRUE(pictures().empty());
+}
+
+TEST_F(GalleryOnScreen, DrawsItsPicturesAnewAtAnotherScale) {
+    gallery.setUnitsPerPoint(2);
+    screen::settle();
+    EXPECT_EQ(pictures().size(), 4u);
+    EXPECT_EQ(gtk_widget_get_width(pictures().at(0)), 340);
+    ASSERT_EQ(source.looks.size(), 4u);
+    EXPECT_EQ(source.looks[0]->scale, 2);
 }
 
 TEST_F(GalleryOnScreen, KeysLeaveIt) {
