@@ -144,10 +144,13 @@ auto optional(const Value& value, std::string_view key, Make make) {
 std::string wholeDigits(std::string_view written) {
     const std::size_t exponentAt = std::min(written.find_first_of("eE"), written.size());
     std::string digits(written.substr(0, exponentAt));
-    long shift =
-        exponentAt == written.size()
-            ? 0
-            : std::strtol(std::string(written.substr(exponentAt + 1)).c_str(), nullptr, 10);
+    // Beyond what any file has digits for, one exponent is like another.
+    constexpr long farthest = 1'000'000'000;
+    long shift = exponentAt == written.size()
+                     ? 0
+                     : std::clamp(std::strtol(std::string(written.substr(exponentAt + 1)).c_str(),
+                                              nullptr, 10),
+                                  -farthest, farthest);
     if (const std::size_t point = digits.find('.'); point != std::string::npos) {
         shift -= static_cast<long>(digits.size() - point - 1);
         digits.erase(point, 1);
