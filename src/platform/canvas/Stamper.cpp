@@ -7,6 +7,7 @@
 #include "platform/canvas/Tracing.hpp"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 #include <variant>
 
