@@ -10,10 +10,19 @@ target_compile_options(nurva_options INTERFACE
     $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>
     $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
     $<$<BOOL:${NURVA_WERROR}>:-Werror>)
+# A sanitizer has memory, descriptors and system calls of its own: NURVA_SANITIZED says so, 0 or 1.
 if(NURVA_SANITIZE)
+    target_compile_definitions(nurva_options INTERFACE NURVA_SANITIZED=1)
     target_compile_options(nurva_options INTERFACE
         -fsanitize=${NURVA_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     target_link_options(nurva_options INTERFACE -fsanitize=${NURVA_SANITIZE})
+else()
+    target_compile_definitions(nurva_options INTERFACE NURVA_SANITIZED=0)
+endif()
+
+# Everything counts what is run of it; only the tests of rooms, which are linked for it, write that down.
+if(NURVA_COVERAGE)
+    target_compile_options(nurva_options INTERFACE -fprofile-instr-generate -fcoverage-mapping)
 endif()
 
 function(nurva_room name)
@@ -70,4 +79,7 @@ endfunction()
 function(nurva_test room)
     nurva_test_program(${room} ${ARGN})
     target_link_libraries(${room}_test PRIVATE "$<LINK_LIBRARY:WHOLE_ARCHIVE,nurva_${room}>")
+    if(NURVA_COVERAGE)
+        target_link_options(${room}_test PRIVATE -fprofile-instr-generate)
+    endif()
 endfunction()

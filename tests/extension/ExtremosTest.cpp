@@ -139,14 +139,6 @@ TEST(Extremos, FillTheCurveWithAMillionGains) {
     EXPECT_GT(cara.pintados, 146u * 44u * 3u);
 }
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr bool saneado = true;
-#elif defined(__has_feature)
-constexpr bool saneado = __has_feature(address_sanitizer) || __has_feature(thread_sanitizer);
-#else
-constexpr bool saneado = false;
-#endif
-
 /// The most memory this process has had at once, in bytes.
 std::size_t masMemoria() {
     std::ifstream estado("/proc/self/status");
@@ -169,7 +161,7 @@ std::size_t masMemoria() {
 }
 
 TEST(ExtremosDeathTest, StayWithin256MiB) {
-    if (saneado)
+    if (NURVA_SANITIZED)
         GTEST_SKIP() << "a sanitizer takes memory of its own";
     // A process of its own for each, so that none answers for another's memory.
     GTEST_FLAG_SET(death_test_style, "threadsafe");

@@ -49,7 +49,7 @@ class Workshop:
                  "-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=gold", "-DNURVA_WERROR=OFF"],
                 check=True, stdout=subprocess.DEVNULL)
         for program, tests in dict.fromkeys(p for suite in suites for p in suite.programs):
-            if not self._built(program, stdout=None):
+            if not self._built(program, jobs=os.cpu_count(), stdout=None):
                 sys.exit(f"{program} does not build")
             before = resource.getrusage(resource.RUSAGE_CHILDREN)
             if self._run(program, tests, WALL_CLOCK) != "survived":
@@ -92,9 +92,9 @@ class Workshop:
             if str(path.relative_to(tree)) not in wanted:
                 path.unlink()
 
-    def _built(self, program, stdout=subprocess.DEVNULL):
+    def _built(self, program, jobs=1, stdout=subprocess.DEVNULL):
         environment = dict(os.environ, CCACHE_DISABLE="1")
-        command = ["ninja", "-C", build, "-j", "1", program]
+        command = ["ninja", "-C", build, "-j", str(jobs), program]
         return subprocess.run(command, env=environment, stdout=stdout, stderr=stdout).returncode == 0
 
     def _run(self, program, tests, seconds):

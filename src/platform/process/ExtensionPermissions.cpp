@@ -10,11 +10,8 @@ namespace process {
 namespace {
 
 /// More than any face takes; whoever needs more has been given something that is no snapshot.
-#ifdef __SANITIZE_ADDRESS__
-constexpr std::size_t memory = sandbox::Permissions::unlimited;  // the sanitizer's own is shadowed
-#else
-constexpr std::size_t memory = std::size_t{256} << 20;
-#endif
+constexpr std::size_t memory =
+    NURVA_SANITIZED ? sandbox::Permissions::unlimited : std::size_t{256} << 20;
 
 }  // namespace
 

@@ -1,5 +1,4 @@
 #include "platform/intents/BackgroundExecutor.hpp"
-#include "platform/sandbox/Sanitizers.hpp"
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -83,7 +82,7 @@ TEST(BackgroundExecutor, SurvivesATaskThatThrows) {
 }
 
 TEST(BackgroundExecutorDeathTest, EndsTheThreadsThereAreWhereThereIsNoRoomForAll) {
-    if (shadowsMemory)
+    if (NURVA_SANITIZED)
         GTEST_SKIP() << "The shadow of a sanitizer is far beyond any limit.";
     EXPECT_EXIT(makeTooManyThreads(), testing::ExitedWithCode(0), "");
 }

@@ -3,7 +3,6 @@
 #include "platform/sandbox/Child.hpp"
 #include "platform/sandbox/Confinement.hpp"
 #include "platform/sandbox/Grounds.hpp"
-#include "platform/sandbox/Sanitizers.hpp"
 #include "platform/sandbox/Sockets.hpp"
 
 #include <gtest/gtest.h>
@@ -40,7 +39,7 @@ class Permitted : public testing::TestWithParam<User> {
         return outcomeInChild(
             [&] {
                 Permissions permissions = grounds.permissions();
-                if (!shadowsMemory)
+                if (!NURVA_SANITIZED)
                     permissions.memory = std::size_t{256} << 20;
                 confine(permissions);
                 return action();

@@ -1,7 +1,6 @@
 #include "platform/sandbox/Child.hpp"
 #include "platform/sandbox/Permissions.hpp"
 #include "platform/sandbox/ProcessLimits.hpp"
-#include "platform/sandbox/Sanitizers.hpp"
 
 #include <gtest/gtest.h>
 #include <sys/mman.h>
@@ -76,7 +75,7 @@ TEST(ProcessLimits, NeverRaiseALowerOne) {
 }
 
 TEST(ProcessLimits, LetMemoryRunOutAsAnException) {
-    if (shadowsMemory)
+    if (NURVA_SANITIZED)
         GTEST_SKIP() << "The shadow of a sanitizer is far beyond any limit.";
     EXPECT_EQ(outcomeInChild([] {
                   limitProcess(64 * megabyte);
@@ -87,7 +86,7 @@ TEST(ProcessLimits, LetMemoryRunOutAsAnException) {
 }
 
 TEST(ProcessLimits, HoldForThreadsToo) {
-    if (shadowsMemory)
+    if (NURVA_SANITIZED)
         GTEST_SKIP() << "The shadow of a sanitizer is far beyond any limit.";
     EXPECT_EQ(
         outcomeInChild([] {
@@ -104,7 +103,7 @@ TEST(ProcessLimits, DoNotCountMemoryThatIsShared) {
                   const int file = ::memfd_create("shared", 0);
                   if (::ftruncate(file, 80 * megabyte) != 0)
                       return errno;
-                  limitProcess(shadowsMemory ? Permissions::unlimited : 64 * megabyte);
+                  limitProcess(NURVA_SANITIZED ? Permissions::unlimited : 64 * megabyte);
                   void* const memory =
                       ::mmap(nullptr, 80 * megabyte, PROT_READ | PROT_WRITE, MAP_SHARED, file, 0);
                   return memory == MAP_FAILED ? errno : 0;
