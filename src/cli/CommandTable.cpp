@@ -45,7 +45,7 @@ std::string valueName(const CLI::Option& option, const CLI::FormatterBase& help)
 }
 
 ArgumentRow row(const CLI::Option& option, const CLI::FormatterBase& help) {
-    const std::string name = option.get_single_name();
+    const std::string& name = option.get_single_name();
     ArgumentRow row{.description = option.get_description(),
                     .choices = choices(name),
                     .isFile = namesFile(name),

@@ -41,11 +41,12 @@ bool takesFiles(const CommandRow& command) {
 }
 
 std::string bashValues(const CommandRow& command, const ArgumentRow& option) {
+    const std::string begin = "        '" + command.name + " ";
     const std::string action = option.isFile ? "-f" : "-W '" + joined(option.choices) + "'";
+    const std::string end = "') _nurva_offer " + action + "; return ;;\n";
     std::string lines;
     for (const std::string& name : option.names)
-        lines +=
-            "        '" + command.name + " " + name + "') _nurva_offer " + action + "; return ;;\n";
+        lines.append(begin).append(name).append(end);
     return lines;
 }
 

@@ -47,6 +47,7 @@ struct DesktopOptions {
     std::vector<std::string> arguments = options.words();
     arguments.insert(arguments.begin(), program->string());
     std::vector<char*> words;
+    words.reserve(arguments.size() + 1);
     for (std::string& argument : arguments)
         words.push_back(argument.data());
     words.push_back(nullptr);

@@ -38,19 +38,19 @@ class Connected {
   public:
     Connected() = default;
     Connected(gpointer object, gulong handler) : object_(G_OBJECT(object)), handler_(handler) {
-        g_object_add_weak_pointer(object_, &pointer_());
+        g_object_add_weak_pointer(object_, &pointer());
     }
     Connected(const Connected&) = delete;
     Connected& operator=(const Connected&) = delete;
     ~Connected() {
         if (!object_)
             return;
-        g_object_remove_weak_pointer(object_, &pointer_());
+        g_object_remove_weak_pointer(object_, &pointer());
         g_signal_handler_disconnect(object_, handler_);
     }
 
   private:
-    gpointer& pointer_() { return reinterpret_cast<gpointer&>(object_); }
+    gpointer& pointer() { return reinterpret_cast<gpointer&>(object_); }
 
     GObject* object_ = nullptr;
     gulong handler_ = 0;

@@ -33,7 +33,7 @@ class Mount {
     virtual views::Rect area(GdkMonitor* monitor) const;
 
     /// Tells of changes of these parts, for as long as what it returns lives.
-    virtual Connected watchAreas(std::function<void()> /*changed*/) const { return {}; }
+    virtual Connected watchAreas(const std::function<void()>& /*changed*/) const { return {}; }
 
     /// The first of the monitors.
     virtual GdkMonitor* primaryMonitor() const { return nullptr; }

@@ -7,7 +7,6 @@
 
 #include <cmath>
 #include <memory>
-#include <utility>
 
 namespace desktop {
 
@@ -73,22 +72,22 @@ views::Rect X11Mount::area(GdkMonitor* monitor) const {
 }
 
 /// The toolkit reads the property anew whenever it is asked, but tells nobody that it has changed.
-Connected X11Mount::watchAreas(std::function<void()> changed) const {
+Connected X11Mount::watchAreas(const std::function<void()>& changed) const {
     Display* display = gdk_x11_display_get_xdisplay(display_);
     const Window root = gdk_x11_display_get_xrootwindow(display_);
     XWindowAttributes attributes;
     XGetWindowAttributes(display, root, &attributes);
     XSelectInput(display, root, attributes.your_event_mask | PropertyChangeMask);
     const Atom areas = gdk_x11_get_xatom_by_name_for_display(display_, "_NET_WORKAREA");
-    return {display_,
-            connect<gboolean(gpointer)>(
-                display_, "xevent", [root, areas, tell = std::move(changed)](gpointer event) {
-                    const XPropertyEvent& property = static_cast<XEvent*>(event)->xproperty;
-                    if (property.type == PropertyNotify && property.window == root &&
-                        property.atom == areas)
-                        tell();
-                    return FALSE;
-                })};
+    return {display_, connect<gboolean(gpointer)>(
+                          display_, "xevent", [root, areas, tell = changed](gpointer event) {
+                              const XPropertyEvent& property =
+                                  static_cast<XEvent*>(event)->xproperty;
+                              if (property.type == PropertyNotify && property.window == root &&
+                                  property.atom == areas)
+                                  tell();
+                              return FALSE;
+                          })};
 }
 
 GdkMonitor* X11Mount::primaryMonitor() const {

@@ -13,7 +13,7 @@ class X11Mount : public Mount {
     void move(GtkWindow* window, GdkMonitor* monitor, views::Point point) override;
     void cut(GtkWindow* window, views::Size card, double cornerRadius) override;
     views::Rect area(GdkMonitor* monitor) const override;
-    Connected watchAreas(std::function<void()> changed) const override;
+    Connected watchAreas(const std::function<void()>& changed) const override;
     GdkMonitor* primaryMonitor() const override;
     std::optional<views::Point> pointer() const override;
 
