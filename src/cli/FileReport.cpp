@@ -91,7 +91,9 @@ std::string text(const std::string& file, const Refusal& refusal) {
                    {file, refusal.kind, refusal.path, refusal.reason});
 }
 
-std::string homeIsMissing() {
+std::optional<std::string> whyNoPlace(const std::string& group) {
+    if (foundation::DefaultFileManager().containerPlace(group))
+        return std::nullopt;
     return message("no se sabe cuál es tu carpeta: falta HOME");
 }
 
@@ -100,9 +102,8 @@ std::optional<std::string> whyNoSnapshot(const foundation::Environment& environm
     const std::string& group = nurva::GrupoDeApps::id(environment);
     const auto container = environment.fileManager.containerURL(group);
     if (!container)
-        return foundation::DefaultFileManager().containerPlace(group)
-                   ? message("no existe el contenedor del grupo %@; abre Nurva una vez", {group})
-                   : homeIsMissing();
+        return whyNoPlace(group).value_or(
+            message("no existe el contenedor del grupo %@; abre Nurva una vez", {group}));
     const std::filesystem::path file = *container / nurva::archivoDeEstado;
     const auto report = reportOn<nurva::EstadoParaWidgets>(environment.fileManager, file);
     if (!report.refusal)

@@ -29,8 +29,8 @@ FileReport<Value> reportOn(const foundation::FileManager& files, const std::file
 /// One line saying why a file was refused.
 std::string text(const std::string& file, const Refusal& refusal);
 
-/// What to say where the user's folder is not known, in which the container would lie.
-std::string homeIsMissing();
+/// Why nobody can say where the container of a group would lie; nothing where it is known.
+std::optional<std::string> whyNoPlace(const std::string& group);
 
 /// Why the widgets have no snapshot in this environment; nothing where they have one. Names the
 /// file as it was given, or where it lies in the container.

@@ -5,7 +5,6 @@
 #include "estado/GrupoDeApps.hpp"
 #include "platform/canvas/FontFiles.hpp"
 #include "platform/foundation/bundle/Entitlements.hpp"
-#include "platform/foundation/files/DefaultFileManager.hpp"
 #include "vistas/Cara.hpp"
 
 #include <algorithm>
@@ -43,13 +42,13 @@ std::vector<Finding> containerFindings(const foundation::Environment& environmen
         findings.push_back({lacks,
                             message("la extensión no tiene permiso para el grupo %@", {group}),
                             message("añádelo a Entitlements.plist de su paquete")});
-    if (!container && !foundation::DefaultFileManager().containerPlace(group)) {
-        findings.push_back({lacks, homeIsMissing(), {}});
-        return findings;
-    }
     if (!container) {
-        findings.push_back({lacks, message("no existe el contenedor del grupo %@", {group}),
-                            message("abre Nurva una vez; sin Nurva, prueba nurva host --demo")});
+        if (const auto reason = whyNoPlace(group))
+            findings.push_back({lacks, *reason, {}});
+        else
+            findings.push_back(
+                {lacks, message("no existe el contenedor del grupo %@", {group}),
+                 message("abre Nurva una vez; sin Nurva, prueba nurva host --demo")});
         return findings;
     }
     findings.push_back({holds, message("contenedor: %@", {container->string()}), {}});

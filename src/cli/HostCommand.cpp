@@ -48,8 +48,8 @@ void host(const HostOptions& options) {
     try {
         const foundation::DefaultFileManager files;
         const std::string& group = nurva::GrupoDeApps::id(environment);
-        if (!files.containerPlace(group))
-            throw Failure(ExitStatus::couldNot, homeIsMissing());
+        if (const auto reason = whyNoPlace(group))
+            throw Failure(ExitStatus::couldNot, *reason);
         const auto container = files.createContainer(group);
         std::cerr << "nurva: " << message("anfitrión de demostración en %@", {container.string()})
                   << std::endl;

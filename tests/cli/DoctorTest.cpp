@@ -1,5 +1,14 @@
 #include "cli/CommandLine.hpp"
+#include "cli/Findings.hpp"
 #include "platform/foundation/SystemClock.hpp"
+
+#include <seccomp.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <iostream>
+#include <vector>
 
 namespace {
 
@@ -89,6 +98,23 @@ TEST_F(Doctor, SaysThatTheSystemHasNoWatchLeftForAFolder) {
               std::string::npos)
         << outcome.errors;
     EXPECT_TRUE(says(outcome, "con 4 widgets")) << "and goes on: " << outcome.output;
+}
+
+/// Looks at the extension where this process may have no timer, and ends with what is found.
+[[noreturn]] void examineExtensionWithoutTimers() {
+    ::setenv("LANGUAGE", "es", 1);
+    const scmp_filter_ctx filter = ::seccomp_init(SCMP_ACT_ALLOW);
+    if (::seccomp_rule_add(filter, SCMP_ACT_ERRNO(EMFILE), SCMP_SYS(timerfd_create), 0) != 0 ||
+        ::seccomp_load(filter) != 0)
+        ::_exit(9);
+    const std::vector<cli::Finding> findings = cli::extensionFindings();
+    std::cerr << findings.at(0).text;
+    ::_exit(findings.at(0).kind == cli::Finding::Kind::lacks ? 0 : 1);
+}
+
+TEST(Findings, SayWhyTheExtensionCannotBeStarted) {
+    EXPECT_EXIT(examineExtensionWithoutTimers(), testing::ExitedWithCode(0),
+                "no se puede arrancar la extensión: timerfd: ");
 }
 
 TEST_F(CommandLine, LooksForABusEvenWhereThereIsNone) {
