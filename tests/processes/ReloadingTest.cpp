@@ -32,6 +32,16 @@ TEST(Reloading, WantsToBeAskedAgainAfterAQuarterOfAnHour) {
     EXPECT_LE(viewer.face->reloadAfter.value(), after.addingTimeInterval(900));
 }
 
+TEST(Reloading, AsksAWidgetThatWantsItAtOnceNoMoreThanEverySecond) {
+    const Stage stage;
+    const auto begin = std::chrono::steady_clock::now();
+    Session session({.extension = RESTLESS_EXTENSION, .patience = support::patience});
+    const Viewer viewer(session, "restless");
+    ASSERT_TRUE(soon([&] { return viewer.shown == 3; }));
+    EXPECT_TRUE(viewer.shows("now"));
+    EXPECT_GE(std::chrono::steady_clock::now() - begin, 1900ms) << "two of about a second";
+}
+
 TEST(Reloading, AsksAWidgetAgainOnceItsActionIsDone) {
     const Stage stage(music());
     Session session(realExtension());

@@ -3,6 +3,7 @@
 #include "support/TemporaryFolder.hpp"
 
 #include <gtest/gtest.h>
+#include <sys/wait.h>
 
 #include <algorithm>
 #include <chrono>
@@ -96,6 +97,25 @@ TEST(Supervision, PerformsAPressAgainWhoseExtensionIsKilledBeforeItDidAnything) 
     signalExtension(SIGKILL);
     ASSERT_TRUE(soon([&] { return card.viewer.shown == 2; }));
     EXPECT_FALSE(card.stage.request().empty());
+}
+
+TEST(Supervision, LosesNothingToAnExtensionWhoseEndNobodyHasNoticedYet) {
+    OneCard card(room);
+    const auto endUnnoticed = [] {
+        const pid_t process = extensionProcess();
+        signalExtension(SIGABRT);  // an end of which the extension itself would be to blame
+        siginfo_t ended;
+        ASSERT_EQ(::waitid(P_PID, static_cast<id_t>(process), &ended, WEXITED | WNOWAIT), 0);
+    };
+    endUnnoticed();
+    card.viewer.display->press({.identifier = "AlternarEncendido"});
+    ASSERT_TRUE(soon([&] { return card.viewer.shown == 2; }));
+    EXPECT_TRUE(card.viewer.face);
+    EXPECT_FALSE(card.stage.request().empty());
+    endUnnoticed();
+    card.session.reload();
+    ASSERT_TRUE(soon([&] { return card.viewer.shown == 3; }));
+    EXPECT_TRUE(card.viewer.face);
 }
 
 TEST(Supervision, EndsAnExtensionThatHangsAndAsksAnother) {
@@ -205,6 +225,24 @@ TEST(Supervision, SaysThatAnExtensionCannotBeStarted) {
     }
     EXPECT_NE(testing::internal::GetCapturedStderr().find("/nonexistent/extension"),
               std::string::npos);
+}
+
+TEST(Supervision, TriesEverySecondToStartAnExtensionThatCannotBeStarted) {
+    const Stage stage(music());
+    const support::TemporaryFolder folder;
+    const std::filesystem::path program = folder.path() / "extension";
+    testing::internal::CaptureStderr();
+    const auto begin = std::chrono::steady_clock::now();
+    Session session({.extension = program, .patience = support::patience});
+    const Viewer viewer(session, room);
+    EXPECT_TRUE(soon([&] { return viewer.shown == 1; }));
+    letPass(200ms);
+    const auto seconds = (std::chrono::steady_clock::now() - begin) / 1s;
+    std::filesystem::create_symlink(NURVA_EXTENSION, program);
+    EXPECT_TRUE(soon([&] { return viewer.face.has_value(); }));
+    const std::string said = testing::internal::GetCapturedStderr();
+    EXPECT_GE(std::ranges::count(said, '\n'), 1);
+    EXPECT_LE(std::ranges::count(said, '\n'), seconds + 2) << said;
 }
 
 TEST(Supervision, OutlivesAnExtensionThatEndsAtOnceOrSpeaksNonsense) {

@@ -4,9 +4,32 @@
 
 #include <glib.h>
 #include <gtest/gtest.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
+#include <cerrno>
+#include <cstdint>
 #include <filesystem>
+#include <fstream>
+#include <functional>
+#include <string_view>
+
+namespace {
+
+/// Called with each path that could not be watched, right after the system said so.
+std::function<void(std::string_view path)> afterRefusal;
+
+}  // namespace
+
+/// In the place of the C library's, so that tests can change the folders between two watches.
+extern "C" int inotify_add_watch(int notifier, const char* path, std::uint32_t mask) noexcept {
+    const auto watch = static_cast<int>(::syscall(SYS_inotify_add_watch, notifier, path, mask));
+    const int error = errno;
+    if (watch < 0 && afterRefusal)
+        afterRefusal(path);
+    errno = error;
+    return watch;
+}
 
 namespace widgethost {
 namespace {
@@ -78,6 +101,31 @@ TEST_F(Watched, FollowsAFolderWhoseParentIsReplaced) {
     EXPECT_EQ(told(), Told(0, 1));
     std::filesystem::create_directories(folder());
     EXPECT_EQ(told(), Told(0, 1));
+}
+
+TEST_F(Watched, SeesAFolderThatComesWhileTheOneAboveIsLookedAt) {
+    afterRefusal = [&](std::string_view path) {
+        if (path == folder().string())
+            std::filesystem::create_directories(folder());
+    };
+    const FolderWatch watched = watch(*this);
+    afterRefusal = {};
+    foundation::writeFileAtomically("1", folder() / "state");
+    EXPECT_EQ(told(), Told(1, 0));
+}
+
+TEST_F(Watched, TellsOfTheFolderWhenMoreHappenedThanTheSystemKeeps) {
+    std::filesystem::create_directories(folder());
+    const FolderWatch watched = watch(*this);
+    long kept = 0;
+    std::ifstream("/proc/sys/fs/inotify/max_queued_events") >> kept;
+    ASSERT_GT(kept, 0);
+    for (long event = 0; event <= kept; ++event)  // the same twice running would be kept as one
+        std::ofstream(folder() / (event % 2 == 0 ? "other" : "another"));
+    foundation::writeFileAtomically("1", folder() / "state");
+    EXPECT_EQ(told(), Told(0, 1));
+    foundation::writeFileAtomically("2", folder() / "state");
+    EXPECT_EQ(told(), Told(1, 0));
 }
 
 TEST_F(Watched, GoesWithoutAFolderThatItMayNotWatch) {

@@ -4,7 +4,9 @@
 #include <glib.h>
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cstddef>
+#include <thread>
 #include <vector>
 
 namespace widgethost {
@@ -21,6 +23,18 @@ struct Paced : testing::Test {
         return passed.size() == count;
     }
 
+    /// Asks for "a" until one waits; how many have been passed on. However slow the machine is, one
+    /// comes too soon at last.
+    std::size_t fill() {
+        constexpr std::size_t far = 1'000'000;
+        std::size_t before = 0;
+        do {
+            before = passed.size();
+            pacing.ask("a");
+        } while (passed.size() > before && before < far);
+        return before;
+    }
+
     std::vector<ReloadPacing::Kinds> passed;
     ReloadPacing pacing{[this](const ReloadPacing::Kinds& kinds) { passed.push_back(kinds); }};
 };
@@ -35,18 +49,23 @@ TEST_F(Paced, PassesOnAFewAtOnce) {
 }
 
 TEST_F(Paced, PutsTogetherWhatComesTooSoon) {
-    // However slow the machine is, one comes too soon at last.
-    constexpr std::size_t far = 1'000'000;
-    std::size_t before = 0;
-    do {
-        before = passed.size();
-        pacing.ask("a");
-    } while (passed.size() > before && before < far);
+    const std::size_t before = fill();
     for (const char* kind : {"b", "c", "b"})
         pacing.ask(kind);
     ASSERT_EQ(passed.size(), before) << "all of them wait";
     ASSERT_TRUE(passes(before + 1));
     EXPECT_EQ(passed.back(), (ReloadPacing::Kinds{"a", "b", "c"}));
+}
+
+TEST_F(Paced, PassesOnOnceWhatIsAskedForWhileSomethingWaits) {
+    const std::size_t before = fill();
+    std::this_thread::sleep_for(250ms);  // it is time, but nobody has looked
+    pacing.ask("b");
+    ASSERT_TRUE(passes(before + 1));
+    EXPECT_EQ(passed.back(), (ReloadPacing::Kinds{"a", "b"}));
+    while (g_main_context_iteration(nullptr, FALSE))
+        continue;
+    EXPECT_EQ(passed.size(), before + 1);
 }
 
 TEST_F(Paced, NeverPassesOnMoreThanTwentyInASecond) {
