@@ -13,6 +13,9 @@ namespace canvas {
 
 namespace {
 
+/// In every font, what stands for a character that it does not have.
+constexpr unsigned long missingGlyph = 0;
+
 /// How a face's stand-in is made to measure like the face itself.
 struct Fitting {
     double size;      // of the requested size
@@ -141,7 +144,8 @@ class Setter {
         for (int i = 0; i < glyphs.num_glyphs; ++i) {
             const PangoGlyphInfo& glyph = glyphs.glyphs[i];
             appendGlyph(run, glyph);
-            double advance = inPoints(glyph.geometry.width);
+            double advance =
+                isUnknown(glyph) ? advanceOfMissing(scaled) : inPoints(glyph.geometry.width);
             cluster += advance;
             const bool lastOfCluster =
                 i + 1 == glyphs.num_glyphs || glyphs.log_clusters[i + 1] != glyphs.log_clusters[i];
@@ -162,12 +166,23 @@ class Setter {
     void appendGlyph(TextRun& run, const PangoGlyphInfo& glyph) {
         if (glyph.glyph == PANGO_GLYPH_EMPTY)
             return;
-        const bool unknown = (glyph.glyph & PANGO_GLYPH_UNKNOWN_FLAG) != 0;
-        if (unknown)
+        if (isUnknown(glyph))
             set_.complete = false;
-        run.glyphs.push_back({unknown ? 0UL : glyph.glyph,
+        run.glyphs.push_back({isUnknown(glyph) ? missingGlyph : glyph.glyph,
                               set_.line.width + inPoints(glyph.geometry.x_offset),
                               inPoints(glyph.geometry.y_offset)});
+    }
+
+    static bool isUnknown(const PangoGlyphInfo& glyph) {
+        return (glyph.glyph & PANGO_GLYPH_UNKNOWN_FLAG) != 0;
+    }
+
+    /// In points. Pango's own is that of a box with a number in it.
+    static double advanceOfMissing(cairo_scaled_font_t* font) {
+        const cairo_glyph_t glyph{missingGlyph, 0, 0};
+        cairo_text_extents_t extents{};
+        cairo_scaled_font_glyph_extents(font, &glyph, 1, &extents);
+        return extents.x_advance;
     }
 
     static double inPoints(PangoGlyphUnit units) {

@@ -29,7 +29,10 @@ void showColouredGlyphs(cairo_t* cairo, const TextLine& line) {
         if (!run.coloured)
             continue;
         cairo_set_scaled_font(cairo, run.font.get());
-        cairo_show_glyphs(cairo, run.glyphs.data(), static_cast<int>(run.glyphs.size()));
+        // One at a time: of several in one call, a recording surface keeps the last alone while
+        // nothing has been drawn on it.
+        for (const cairo_glyph_t& glyph : run.glyphs)
+            cairo_show_glyphs(cairo, &glyph, 1);
     }
 }
 

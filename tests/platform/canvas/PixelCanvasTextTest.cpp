@@ -5,7 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <string>
 
 namespace canvas {
 namespace {
@@ -99,6 +101,30 @@ TEST_F(PixelCanvasText, DrawsPictureCharactersInTheirOwnColors) {
     for (const std::uint32_t pixel : picture.argb)
         red += (pixel >> 16 & 0xFF) > 150 && (pixel & 0xFF) < 100;
     EXPECT_GT(red, 100);
+}
+
+TEST_F(PixelCanvasText, DrawsEveryOneOfSeveralPictureCharacters) {
+    constexpr const char* circle = "\U0001F534";
+    const auto redPixels = [](const std::string& line) {
+        return std::ranges::count_if(
+            drawPixels(sceneOf(scenes::text(0, 10, line, {20}, {0, 0, 1})), 2).argb,
+            [](std::uint32_t pixel) { return (pixel >> 16 & 0xFF) > 150 && (pixel & 0xFF) < 100; });
+    };
+    const auto one = redPixels(circle);
+    EXPECT_NEAR(static_cast<double>(redPixels(std::string(circle) + circle + circle)),
+                3.0 * static_cast<double>(one), 0.1 * static_cast<double>(one));
+}
+
+TEST_F(PixelCanvasText, ShowsCharactersOfNoFontBesideEachOther) {
+    constexpr const char* nobodys = "\U0010FFFD";
+    const auto right = [](const std::string& line) {
+        return ink(drawPixels(sceneOf(scenes::text(0, 10, line, {12}, white)), 2)).right();
+    };
+    const double one = right(nobodys);
+    const double two = right(std::string(nobodys) + nobodys);
+    const double three = right(std::string(nobodys) + nobodys + nobodys);
+    EXPECT_GE(two, 2 * one - 1) << "the second begins where the first ends";
+    EXPECT_NEAR(three - two, two - one, 2);
 }
 
 TEST_F(PixelCanvasText, DrawsNothingForControlCharacters) {
