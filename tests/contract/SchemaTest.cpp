@@ -39,7 +39,8 @@ bool repeatsAKey(const JSONValue& value) {
     std::vector<JSONValue> inner;
     std::set<std::string> keys;
     if (value.kind == JSONValue::Kind::array)
-        inner = foundation::elements(value);
+        foundation::forEachElement(value,
+                                   [&](const JSONValue& element) { inner.push_back(element); });
     if (value.kind == JSONValue::Kind::object) {
         for (const auto& member : foundation::members(value)) {
             inner.push_back(member.value);

@@ -40,9 +40,9 @@ std::string contents(const std::filesystem::path& file) {
 std::string withSortedKeys(const foundation::JSONValue& value) {
     std::string text;
     if (value.kind == foundation::JSONValue::Kind::array) {
-        for (const auto& element : foundation::elements(value)) {
+        foundation::forEachElement(value, [&](const foundation::JSONValue& element) {
             text += (text.empty() ? "" : ",") + withSortedKeys(element);
-        }
+        });
         return "[" + text + "]";
     }
     if (value.kind == foundation::JSONValue::Kind::object) {

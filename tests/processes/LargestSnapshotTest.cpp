@@ -1,10 +1,12 @@
 #include "platform/foundation/files/ReadFile.hpp"
+#include "platform/foundation/files/WriteFile.hpp"
 #include "platform/foundation/json/JSONEncoder.hpp"
 #include "processes/Stage.hpp"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 #include <string>
 
 namespace {
@@ -44,6 +46,33 @@ TEST(LargestSnapshot, IsShownWithItsWholeCurve) {
     estado.curva.assign((foundation::maximumFileBytes - besideTheList) / 2, 1);  // 1 and a comma
     estado.perfil = "Todo igual";
     expectShown("nurva.queEstaPuesto", estado, "Todo igual");
+}
+
+/// Megabytes that a process has had in memory at most.
+double peakMemory(pid_t process) {
+    std::ifstream status("/proc/" + std::to_string(process) + "/status");
+    for (std::string word; status >> word;)
+        if (word == "VmHWM:" && status >> word)
+            return std::stod(word) / 1024;
+    return 0;
+}
+
+TEST(LargestSnapshot, IsRefusedAsCheaplyAsItIsShown) {
+    nurva::EstadoParaWidgets estado = music();
+    estado.curva.assign((foundation::maximumFileBytes - besideTheList) / 2, 1);
+    std::string text = foundation::JSONEncoder().encode(estado);
+    text.replace(text.rfind("\"cuando\""), 8, "\"cuanto\"");
+    OneCard card("nurva.queEstaPuesto");
+    const pid_t process = extensionProcess();
+    foundation::writeFileAtomically(text, card.stage.container() / "estado.json");
+    EXPECT_TRUE(
+        soon([&] { return card.viewer.shows("Abre Nurva una vez y este widget se llena."); }));
+    EXPECT_EQ(extensionProcess(), process);
+    const double peak = peakMemory(process);
+    EXPECT_GT(peak, 1);
+    if (!NURVA_SANITIZED) {
+        EXPECT_LT(peak, 60) << "megabytes";
+    }
 }
 
 TEST(LargestSnapshot, IsShownWithAllItsProfiles) {

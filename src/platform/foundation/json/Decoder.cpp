@@ -122,14 +122,12 @@ void Decoder::decode(std::string& value) const {
     }
 }
 
-std::vector<Decoder> Decoder::elements() const {
+void Decoder::forEachElement(const std::function<void(const Decoder&)>& visit) const {
     requireValue("unkeyed decoding container");
     require(JSONValue::Kind::array, "Array<Any>");
-    std::vector<Decoder> decoders;
-    for (const JSONValue& element : foundation::elements(value_)) {
-        decoders.push_back(child(std::to_string(decoders.size()), element));
-    }
-    return decoders;
+    std::size_t index = 0;
+    foundation::forEachElement(
+        value_, [&](const JSONValue& element) { visit(child(std::to_string(index++), element)); });
 }
 
 KeyedDecodingContainer Decoder::container() const {

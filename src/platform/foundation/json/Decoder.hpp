@@ -7,6 +7,7 @@
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -58,7 +59,7 @@ class Decoder {
     const std::string& codingPath() const { return codingPath_; }
 
   private:
-    std::vector<Decoder> elements() const;
+    void forEachElement(const std::function<void(const Decoder&)>& visit) const;
 
     template <class Number>
     void decodeNumber(Number& number, std::string_view type) const;
@@ -119,9 +120,7 @@ void Decoder::decode(T& value) const {
 template <class Element>
 void Decoder::decode(std::vector<Element>& value) const {
     value.clear();
-    for (const Decoder& element : elements()) {
-        element.decode(value.emplace_back());
-    }
+    forEachElement([&](const Decoder& element) { element.decode(value.emplace_back()); });
 }
 
 template <CodedRecord Record>

@@ -49,11 +49,9 @@ std::vector<JSONMember> members(const JSONValue& object) {
     return members;
 }
 
-std::vector<JSONValue> elements(const JSONValue& array) {
-    std::vector<JSONValue> elements;
+void forEachElement(const JSONValue& array, const std::function<void(const JSONValue&)>& visit) {
     JSONScanner scanner(array.text);
-    scanner.passItems('[', ']', [&] { elements.push_back(scanner.value()); });
-    return elements;
+    scanner.passItems('[', ']', [&] { visit(scanner.value()); });
 }
 
 }  // namespace foundation

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,7 +42,7 @@ class JSONDocument {
 /// The members of an object in the order of the text, duplicates included. Keys are read here.
 std::vector<JSONMember> members(const JSONValue& object);
 
-/// The elements of an array.
-std::vector<JSONValue> elements(const JSONValue& array);
+/// Hands over the elements of an array, one by one.
+void forEachElement(const JSONValue& array, const std::function<void(const JSONValue&)>& visit);
 
 }  // namespace foundation
