@@ -52,13 +52,15 @@ class Cache {
     std::vector<Kept> kept_;
 };
 
-std::string contents(const std::string& path, const std::optional<FileIdentity>& file) {
+/// Nothing where the file cannot be read now.
+std::optional<std::string> contents(const std::string& path,
+                                    const std::optional<FileIdentity>& file) {
     if (!file)
-        return {};
+        return "";
     try {
         return readFile(path);
     } catch (const FileError&) {
-        return {};
+        return std::nullopt;
     }
 }
 
@@ -82,9 +84,12 @@ std::shared_ptr<const StringsTable> localizableTable(const std::filesystem::path
         return nullptr;
     if (auto table = cache.find(key))
         return table;
-    auto table = std::make_shared<const StringsTable>(key.language, contents(strings, key.strings),
-                                                      contents(dictionary, key.dictionary));
-    cache.keep({key, table});
+    const auto texts = contents(strings, key.strings);
+    const auto plurals = contents(dictionary, key.dictionary);
+    auto table = std::make_shared<const StringsTable>(key.language, texts.value_or(""),
+                                                      plurals.value_or(""));
+    if (texts && plurals)
+        cache.keep({key, table});
     return table;
 }
 

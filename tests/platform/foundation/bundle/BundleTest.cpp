@@ -2,6 +2,7 @@
 #include "support/TemporaryFolder.hpp"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include <filesystem>
 #include <fstream>
@@ -169,6 +170,19 @@ TEST(Bundle, AChangedTableIsSeenByTheNextBundleOpened) {
     std::filesystem::rename(folder.path() / "next", folder.path() / "Localizable.strings");
     EXPECT_EQ(wordFor(*Bundle::open(folder.path()), "k"), "other");
     EXPECT_EQ(wordFor(*before, "k"), "first");
+}
+
+TEST(Bundle, ATableThatCannotBeReadNowIsReadByTheNextBundleOpened) {
+    const TemporaryFolder folder;
+    folder.write("Localizable.strings", "k = word;");
+    rlimit before{};
+    ::getrlimit(RLIMIT_NOFILE, &before);
+    const rlimit none{0, before.rlim_max};  // as where all descriptors are in use
+    ::setrlimit(RLIMIT_NOFILE, &none);
+    const std::string unread = wordFor(*Bundle::open(folder.path()), "k");
+    ::setrlimit(RLIMIT_NOFILE, &before);
+    EXPECT_EQ(unread, "(none)");
+    EXPECT_EQ(wordFor(*Bundle::open(folder.path()), "k"), "word");
 }
 
 TEST(Bundle, HasALocalizationWhereThereIsAFolderOfItsName) {
