@@ -18,8 +18,8 @@ constexpr double shortestReload = 1;  // seconds
 Session::Contents::Contents(const SessionOptions& options)
     : pacing([this](const ReloadPacing::Kinds& kinds) { want(kinds); }),
       presses_([this](Slot slot) {
-          if (card(slot))
-              want(slot);
+          if (const CardState* const pressed = card(slot))
+              pacing.ask(pressed->kind);
           goOn();
       }),
       timer_([this] { askWhoIsDue(); }),

@@ -133,6 +133,17 @@ TEST(Reloading, PutsABurstOfReloadsTogetherAndShowsTheLastState) {
     EXPECT_TRUE(soon([&] { return card.viewer.shows(estado.perfil); }));
 }
 
+TEST(Reloading, PutsTogetherWhatABurstOfPressesAsksFor) {
+    OneCard card(room);
+    const auto start = std::chrono::steady_clock::now();
+    for (int press = 0; press < 30; ++press)
+        card.viewer.display->press({.identifier = "AlternarEncendido"});
+    const auto last = card.viewer.shown + 5;
+    ASSERT_TRUE(soon([&] { return card.viewer.shown >= last; }));
+    const auto spans = (std::chrono::steady_clock::now() - start) / 200ms + 1;
+    EXPECT_LE(card.viewer.shown, 1 + 4 * spans);
+}
+
 TEST(Reloading, OutlivesTheBusAndFindsItAgain) {
     OneCard card(room);
     card.stage.bus().end();
