@@ -37,7 +37,7 @@ struct EstadoParaWidgets {
     bool dejaCambiar = false;           ///< the controls may send requests
     std::uint32_t acento = 0x5CE49A;    ///< 0xRRGGBB in the low 24 bits
     std::optional<std::string> idioma;  ///< code of the language chosen in the host application
-    foundation::Date cuando;            ///< when the host application wrote it
+    foundation::Date cuando;            ///< when the host application wrote it, which says so
 
     /// The placeholder. It is made now, and what time it is the caller says, as everywhere.
     static EstadoParaWidgets porDefecto(foundation::Date ahora);
