@@ -8,9 +8,10 @@
 
 namespace nurva {
 
-Publicador::Publicador()
-    : contenedor_(foundation::DefaultFileManager().createContainer(
-          GrupoDeApps::id(foundation::processEnvironment()))) {}
+Publicador::Publicador() : Publicador(GrupoDeApps::id(foundation::processEnvironment())) {}
+
+Publicador::Publicador(const std::string& grupo)
+    : contenedor_(foundation::DefaultFileManager().createContainer(grupo)) {}
 
 void Publicador::publicar(EstadoParaWidgets estado) const {
     const foundation::Environment entorno = foundation::processEnvironment();

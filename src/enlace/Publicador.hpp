@@ -3,15 +3,20 @@
 #include "estado/EstadoParaWidgets.hpp"
 
 #include <filesystem>
+#include <string>
 
 namespace nurva {
 
 /// Shows the widgets what the host application wants shown. For one thread.
 class Publicador {
   public:
-    /// Makes the container shared with the widgets, for the user alone, where there is none. Throws
-    /// std::runtime_error where that does not work.
+    /// Makes the container shared with the widgets, for the user alone, where there is none. Its
+    /// group is the one of the widgets' bundle, where this program finds it beside itself or by
+    /// NURVA_BUNDLE, else the usual one. Throws std::runtime_error where that does not work.
     Publicador();
+
+    /// The same for another group.
+    explicit Publicador(const std::string& grupo);
 
     const std::filesystem::path& contenedor() const { return contenedor_; }
 

@@ -28,6 +28,15 @@ TEST_F(PublicadorTest, MakesTheContainerForTheUserAlone) {
     EXPECT_EQ(Publicador().contenedor(), container());
 }
 
+TEST_F(PublicadorTest, PublishesToAnotherGroupThatItIsGiven) {
+    const Publicador publicador("group.other");
+    EXPECT_EQ(publicador.contenedor(), container().parent_path() / "group.other");
+    publicador.publicar({});
+    EXPECT_TRUE(fs::exists(publicador.contenedor() / "estado.json"));
+    EXPECT_FALSE(fs::exists(container()));
+    EXPECT_THROW(Publicador("a/b"), std::runtime_error);
+}
+
 TEST_F(PublicadorTest, SaysThatThereCannotBeAContainer) {
     home.write("group-containers", "a file");
     EXPECT_THROW(Publicador(), std::runtime_error);
