@@ -74,10 +74,11 @@ std::vector<Finding> fontFindings() {
     for (const auto design : {views::FontDesign::standard, views::FontDesign::monospaced}) {
         const std::string family = canvas::standInFamily(design);
         if (canvas::standInFile(design, views::FontWeight::regular))
-            findings.push_back({holds, message("letra: %@", {family}), {}});
+            findings.push_back({holds, message("tipo de letra: %@", {family}), {}});
         else
-            findings.push_back({note, message("falta la letra %@; los widgets usan otra", {family}),
-                                message("instala el paquete de tu distribución con %@", {family})});
+            findings.push_back(
+                {note, message("falta el tipo de letra %@; los widgets usan otro", {family}),
+                 message("instala el paquete de tu distribución con %@", {family})});
     }
     return findings;
 }
