@@ -25,11 +25,14 @@ struct CommandLine : testing::Test {
     std::filesystem::path publish(const json& snapshot) const {
         return home.write("group-containers/group.org.nurva.Nurva/estado.json", snapshot.dump());
     }
-    /// Runs `nurva` as a user with this home and these languages does.
-    Outcome nurva(const std::string& arguments, const std::string& language = "es_ES.UTF-8") const {
-        return support::run(
-            "env -u LANGUAGE -u LC_ALL -u LC_MESSAGES -u LC_NUMERIC LANG=" + language +
-            " XDG_DATA_HOME='" + home.path().string() + "' " NURVA_PROGRAM " " + arguments);
+    /// Runs `nurva` as a user with this home and these languages does, with further variables
+    /// such as "A=1 B=2".
+    Outcome nurva(const std::string& arguments,
+                  const std::string& language = "es_ES.UTF-8",
+                  const std::string& variables = "") const {
+        return support::run("env -u LANGUAGE -u LC_ALL -u LC_MESSAGES -u LC_NUMERIC LANG=" +
+                            language + " XDG_DATA_HOME='" + home.path().string() + "' " +
+                            variables + " " NURVA_PROGRAM " " + arguments);
     }
     static json snapshot() { return json::parse(support::contentsOf(example)); }
     std::string file(const std::string& bytes, const std::string& name = "snapshot.json") const {

@@ -215,6 +215,41 @@ TEST_F(CommandLine, WritesTheRequestOfAnAction) {
     EXPECT_EQ(support::contentsOf(container() / "peticion.json"), R"({"ponerPerfil":{"_0":"p1"}})");
 }
 
+/// A bundle that names another group than the host application's own, whose container is there too.
+struct OtherGroup : CommandLine {
+    OtherGroup() {
+        std::filesystem::copy(NURVA_RESOURCES_FOLDER "/NurvaWidgets.appex", bundle,
+                              std::filesystem::copy_options::recursive);
+        std::string info = support::contentsOf(bundle / "Info.plist");
+        info.insert(info.find("<dict>") + 6, "<key>GrupoDeApps</key><string>abc</string>");
+        home.write("Other.appex/Info.plist", info);
+        std::filesystem::create_directory(itsContainer);
+    }
+    Outcome nurva(const std::string& arguments) const {
+        return CommandLine::nurva(arguments, "es_ES.UTF-8",
+                                  "NURVA_BUNDLE='" + bundle.string() + "'");
+    }
+
+    std::filesystem::path bundle = home.path() / "Other.appex";
+    std::filesystem::path itsContainer = home.path() / "group-containers/abc";
+};
+
+TEST_F(OtherGroup, ReadsTheSnapshotInTheContainerThatTheBundleNames) {
+    json other = snapshot();
+    other["perfil"] = "Cine";
+    home.write("group-containers/abc/estado.json", other.dump());
+    publish(snapshot());
+    const Outcome outcome = nurva("timeline nurva.tuCuarto --now 804686460");
+    ASSERT_EQ(outcome.status, 0) << outcome.errors;
+    EXPECT_EQ(json::parse(outcome.output)["state"]["perfil"], "Cine");
+}
+
+TEST_F(OtherGroup, SendsTheRequestIntoTheContainerThatTheBundleNames) {
+    EXPECT_EQ(nurva("perform AlternarEncendido").status, 0);
+    EXPECT_EQ(support::contentsOf(itsContainer / "peticion.json"), R"({"alternarEncendido":{}})");
+    EXPECT_FALSE(std::filesystem::exists(container() / "peticion.json"));
+}
+
 TEST_F(CommandLine, SendsNothingForAnActionThatIsNotWhole) {
     for (const char* arguments :
          {"Nada", "PonerVolumen", "PonerVolumen clave=a", "PonerVolumen clave=a nivel=medio",

@@ -4,9 +4,12 @@
 #include "support/World.hpp"
 
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 namespace nurva {
 namespace {
+
+using nlohmann::json;
 
 const std::filesystem::path contenedor = "/contenedor";
 
@@ -61,6 +64,34 @@ TEST_F(CargarEstado, HasNoRecordInHalfAFileWhateverItsLength) {
     for (std::size_t largo = 0; largo < entero.size(); ++largo) {
         publicar(entero.substr(0, largo));
         EXPECT_EQ(cargarEstado(mundo.environment), std::nullopt) << largo;
+    }
+}
+
+TEST_F(CargarEstado, HasNoRecordWhereAnyFieldIsMissingNullOrOfAnotherType) {
+    const json entero = json::parse(foundation::JSONEncoder().encode(registro("Voz")));
+    publicar(entero.dump());
+    ASSERT_EQ(cargarEstado(mundo.environment), registro("Voz"));
+    ASSERT_TRUE(entero.contains("razon"));
+    for (const auto& campo : entero.items()) {
+        json sin = entero;
+        sin.erase(campo.key());
+        json nulo = entero;
+        nulo[campo.key()] = nullptr;
+        json deOtroTipo = entero;
+        deOtroTipo[campo.key()] = json::object();
+        for (const json& roto : {sin, nulo, deOtroTipo}) {
+            publicar(roto.dump());
+            EXPECT_EQ(cargarEstado(mundo.environment), std::nullopt) << roto;
+        }
+    }
+}
+
+TEST_F(CargarEstado, HasNoRecordWhereTheAccentIsNoWholeNumber) {
+    json roto = json::parse(foundation::JSONEncoder().encode(registro("Voz")));
+    for (const json& acento : {json(1.5), json(-1), json(4294967296), json("0x5CE49A")}) {
+        roto["acento"] = acento;
+        publicar(roto.dump());
+        EXPECT_EQ(cargarEstado(mundo.environment), std::nullopt) << acento;
     }
 }
 

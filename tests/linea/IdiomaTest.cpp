@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 namespace nurva {
 namespace {
 
@@ -62,6 +64,21 @@ TEST_F(IdiomaTest, LeavesTextsWithoutABundleToTheSystemsLanguage) {
 TEST_F(IdiomaTest, PutsArgumentsInWithTheCurrentLocale) {
     Idioma::fijar("en");
     EXPECT_EQ(Idioma::texto("%lld sonando", {std::int64_t{12345}}), "12.345 sonando");
+}
+
+/// Ends the process: with success where its first texts are those of the main bundle.
+[[noreturn]] void terminarTrasElPrimerTexto() {
+    const support::World mundo(support::World::bundleIn({"en"}));
+    const views::BuildScope construccion(mundo.environment);
+    const bool elPrincipal = Idioma::paquete().path() == mundo.environment.mainBundle.path() &&
+                             Idioma::texto("mudo") == "muted";
+    std::exit(elPrincipal ? EXIT_SUCCESS : EXIT_FAILURE);
+}
+
+TEST(IdiomaDeathTest, IsTheMainBundleBeforeAnyLanguageIsChosen) {
+    // A process that begins anew, since in this one other tests have chosen.
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_EXIT(terminarTrasElPrimerTexto(), testing::ExitedWithCode(EXIT_SUCCESS), "");
 }
 
 }  // namespace

@@ -23,20 +23,22 @@ struct ProveedorTest : testing::Test {
         entorno = std::make_unique<foundation::Environment>(foundation::Environment{
             *reloj, mundo.files, mundo.notifications, mundo.environment.mainBundle, {}});
     }
-    widgets::Timeline<Entrada> linea() {
+    /// The one answer to the question for a timeline.
+    static widgets::Timeline<Entrada> linea(const Proveedor::Context& contexto) {
         std::vector<widgets::Timeline<Entrada>> respuestas;
-        Proveedor{}.getTimeline({.environment = *entorno},
-                                [&](auto respuesta) { respuestas.push_back(respuesta); });
+        Proveedor{}.getTimeline(contexto, [&](auto respuesta) { respuestas.push_back(respuesta); });
         EXPECT_EQ(respuestas.size(), 1u);
         return respuestas.at(0);
     }
-    Entrada instantanea() {
+    widgets::Timeline<Entrada> linea() const { return linea({.environment = *entorno}); }
+    /// The one answer to the question for a snapshot.
+    static Entrada instantanea(const Proveedor::Context& contexto) {
         std::vector<Entrada> respuestas;
-        Proveedor{}.getSnapshot({.environment = *entorno},
-                                [&](auto respuesta) { respuestas.push_back(respuesta); });
+        Proveedor{}.getSnapshot(contexto, [&](auto respuesta) { respuestas.push_back(respuesta); });
         EXPECT_EQ(respuestas.size(), 1u);
         return respuestas.at(0);
     }
+    Entrada instantanea() const { return instantanea({.environment = *entorno}); }
 
     support::World mundo;
     EstadoParaWidgets estado = EstadoParaWidgets::porDefecto(support::noon);
@@ -95,14 +97,20 @@ TEST_F(ProveedorTest, ShowsTheDefaultRecordAsPlaceholderWithoutReading) {
 TEST_F(ProveedorTest, AnswersAlikeForEveryFamilyAndPreview) {
     publicar();
     ponerRelojEn({Date{100}});
+    const Entrada ahora{.date = Date{100}, .estado = estado};
+    const Entrada provisional{.date = Date{100},
+                              .estado = EstadoParaWidgets::porDefecto(Date{100})};
     for (const auto family :
          {widgets::WidgetFamily::systemSmall, widgets::WidgetFamily::systemMedium})
-        for (const bool isPreview : {false, true})
-            Proveedor{}.getSnapshot(
-                {.environment = *entorno, .family = family, .isPreview = isPreview},
-                [&](const Entrada& entrada) {
-                    EXPECT_EQ(entrada, (Entrada{.date = Date{100}, .estado = estado}));
-                });
+        for (const bool isPreview : {false, true}) {
+            const Proveedor::Context contexto{
+                .environment = *entorno, .family = family, .isPreview = isPreview};
+            EXPECT_EQ(instantanea(contexto), ahora);
+            const auto respuesta = linea(contexto);
+            EXPECT_EQ(respuesta.entries, std::vector{ahora});
+            EXPECT_EQ(respuesta.policy, widgets::TimelineReloadPolicy::after(Date{1000}));
+            EXPECT_EQ(Proveedor{}.placeholder(contexto), provisional);
+        }
 }
 
 }  // namespace

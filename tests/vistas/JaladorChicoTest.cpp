@@ -73,6 +73,19 @@ TEST(JaladorChico, ShowsAMutedLevelInGrey) {
     EXPECT_EQ(escena.controls.size(), 10u);
 }
 
+TEST(JaladorChico, SetsTheLevelOfAMutedApplicationToo) {
+    JaladorChico muda = jalador(0.6);
+    muda.silenciada = true;
+    const auto escena = barra(muda);
+    for (int i = 1; i <= 10; ++i) {
+        const auto* decimo = support::controlAt(escena, {12.0 + 10 * i - 5, 20});
+        ASSERT_NE(decimo, nullptr) << i;
+        EXPECT_TRUE(decimo->enabled) << i;
+        EXPECT_EQ(decimo->action,
+                  (intents::ArchivedAction{"PonerVolumen", {{"clave", "a"}, {"nivel", i / 10.0}}}));
+    }
+}
+
 TEST(JaladorChico, HasATenthForEveryTenPercent) {
     const auto escena = barra(jalador(0.5));
     ASSERT_EQ(escena.controls.size(), 10u);

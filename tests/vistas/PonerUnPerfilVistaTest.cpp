@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 
 namespace nurva {
@@ -25,6 +26,14 @@ struct PonerUnPerfilVistaTest : testing::Test {
     }
     views::Scene cara() const { return escena(mundo, PonerUnPerfilVista{.e = estado}, mediana); }
 
+    static bool hayRegla(const views::Scene& escena, const Rect& donde) {
+        const auto partes = support::all<views::FillShape>(escena);
+        return std::any_of(partes.begin(), partes.end(), [&](const auto& parte) {
+            return parte.frame == donde && parte.color == WO::filete &&
+                   std::holds_alternative<views::Rectangle>(parte.shape);
+        });
+    }
+
     support::World mundo;
     std::optional<EstadoParaWidgets> estado = estadoDeAhora();
 };
@@ -45,12 +54,7 @@ TEST_F(PonerUnPerfilVistaTest, StandsWhereItsLayoutSays) {
     const auto nota = textReading(escena, "se aplica sin abrir Nurva").frame;
     EXPECT_EQ(nota.right(), 352);
     EXPECT_EQ(nota.y + nota.height / 2, pastilla.frame.y + pastilla.frame.height / 2);
-    const Rect regla{12, pastilla.frame.y - 10 - 1, 340, 1};
-    bool hayRegla = false;
-    for (const auto& parte : support::all<views::FillShape>(escena))
-        hayRegla = hayRegla || (parte.frame == regla && parte.color == WO::filete &&
-                                std::holds_alternative<views::Rectangle>(parte.shape));
-    EXPECT_TRUE(hayRegla);
+    EXPECT_TRUE(hayRegla(escena, {12, pastilla.frame.y - 10 - 1, 340, 1}));
 }
 
 TEST_F(PonerUnPerfilVistaTest, PutsCurveAndNameIntoTheMiddleOfATile) {
@@ -122,6 +126,13 @@ TEST_F(PonerUnPerfilVistaTest, KeepsTheRoomOfAnEmptyRow) {
               (std::vector<std::string>{"PONER UN PERFIL", "ahora: Voz", "Ecualizador encendido",
                                         "se aplica sin abrir Nurva"}));
     EXPECT_EQ(escena.controls.size(), 1u);
+    EXPECT_TRUE(hayRegla(escena, {12, 158 - 26 - 10 - 1, 340, 1}));
+    // On a card too low for it: header 13, the row's 12, rule 1, switch 10 + 26 in 36 points.
+    const auto baja = nurva::escena(mundo, PonerUnPerfilVista{.e = estado}, {364, 60});
+    const double arriba = 12 + (36 - (13 + 12 + 1 + 36)) / 2.0;
+    EXPECT_EQ(textReading(baja, "PONER UN PERFIL").frame.y, arriba + 1);
+    EXPECT_TRUE(hayRegla(baja, {12, arriba + 13 + 12, 340, 1}));
+    EXPECT_EQ(baja.controls.at(0).frame.y, arriba + 13 + 12 + 1 + 10);
 }
 
 TEST_F(PonerUnPerfilVistaTest, GivesALoneTileTheWholeRow) {

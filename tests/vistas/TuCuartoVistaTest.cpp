@@ -1,3 +1,4 @@
+#include "support/TemporaryFolder.hpp"
 #include "vistas/CaraDePrueba.hpp"
 #include "vistas/TuCuartoVista.hpp"
 #include "vistas/WO.hpp"
@@ -116,6 +117,27 @@ TEST_F(TuCuartoVistaTest, LeavesTheValueRowToTheSystemsLanguage) {
     EXPECT_EQ(support::texts(cara()).back(), "1 output not measured");
 }
 
+TEST_F(TuCuartoVistaTest, TakesOnlyTheValueRowFromTheSystemsLanguage) {
+    const support::TemporaryFolder carpeta;
+    for (const std::string idioma : {"es", "en"}) {
+        std::string tabla;
+        for (const std::string clave :
+             {"Tu cuarto", "±%.1f", "dB", "antes ±%@", "%lld salidas sin medir", "Sin medir",
+              "mídela y sabrás qué corrige"})
+            tabla += "\"" + clave + "\" = \"" + clave + " (" + idioma + ")\";\n";
+        carpeta.write(idioma + ".lproj/Localizable.strings", tabla);
+    }
+    const support::World deSistemaEspanol(foundation::Bundle::localized(carpeta.path(), {"es"}));
+    estado->idioma = "en";
+    EXPECT_EQ(support::texts(cara(deSistemaEspanol)),
+              (Textos{"TU CUARTO (EN)", "hace 3 días", "Audífonos", "±2,4 (es)", "dB (es)",
+                      "antes ±6.3 (en)", "3 salidas sin medir (en)"}));
+    estado->cuartoAhora.reset();
+    EXPECT_EQ(support::texts(cara(deSistemaEspanol)),
+              (Textos{"TU CUARTO (EN)", "hace 3 días", "Audífonos", "Sin medir (en)",
+                      "mídela y sabrás qué corrige (en)", "3 salidas sin medir (en)"}));
+}
+
 TEST_F(TuCuartoVistaTest, WrapsALongOutputAndCutsALongAge) {
     estado->salida = "Los audífonos inalámbricos nuevos de Marta en la sala de arriba";
     estado->medidoHace = "hace muchísimo más tiempo del que cabe aquí";
@@ -136,6 +158,17 @@ TEST_F(TuCuartoVistaTest, IsClosedAfterNineHundredSeconds) {
     estado->cuando = support::noon.addingTimeInterval(-900);
     EXPECT_EQ(support::texts(cara()),
               (Textos{"Nurva", "Nurva está cerrado. Ábrelo y este widget se pone al día."}));
+    estado.reset();
+    EXPECT_EQ(support::texts(cara()),
+              (Textos{"Nurva", "Abre Nurva una vez y este widget se llena."}));
+    EXPECT_EQ(WO::acentoHex, 0x5CE49Au);
+}
+
+TEST_F(TuCuartoVistaTest, KeepsNeitherLanguageNorAccentOfASnapshotThatIsGone) {
+    estado->idioma = "en";
+    estado->acento = 0xFF0000;
+    EXPECT_EQ(support::texts(cara()).front(), "YOUR ROOM");
+    EXPECT_EQ(WO::acentoHex, 0xFF0000u);
     estado.reset();
     EXPECT_EQ(support::texts(cara()),
               (Textos{"Nurva", "Abre Nurva una vez y este widget se llena."}));

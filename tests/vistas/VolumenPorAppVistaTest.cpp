@@ -128,6 +128,45 @@ TEST_F(VolumenPorAppVistaTest, ShowsAMutedApplicationWithAnEmptyBar) {
     EXPECT_EQ(tachado->font, (Font{10, views::regular}));
 }
 
+TEST_F(VolumenPorAppVistaTest, LeavesTheTenthsOfAMutedApplicationToPress) {
+    const auto escena = cara();
+    const auto suyos = controlesDe(escena, "b");
+    ASSERT_EQ(suyos.size(), 13u);
+    for (std::size_t i = 1; i <= 10; ++i) {
+        EXPECT_TRUE(suyos[i]->enabled) << i;
+        EXPECT_EQ(std::get<double>(suyos[i]->action.parameters.at(1).second),
+                  static_cast<double>(i) / 10)
+            << i;
+    }
+}
+
+TEST_F(VolumenPorAppVistaTest, PutsTheKnobOfAMutedApplicationAtTheLeadingEdge) {
+    const auto escena = cara();
+    const auto* quitar = controlLabelled(escena, "Quitar silencio a Mensajes");
+    ASSERT_NE(quitar, nullptr);
+    const double barra = 12 + 70 + 7 + 22 + 7;
+    std::vector<Rect> perillas;
+    for (const auto& parte : support::all<views::FillShape>(escena))
+        if (parte.shape == views::Shape(views::RoundedRectangle{.cornerRadius = 3}))
+            perillas.push_back(parte.frame);
+    ASSERT_EQ(perillas.size(), 3u);
+    EXPECT_GT(perillas[0].x, barra);
+    EXPECT_EQ(perillas[1], (Rect{barra, quitar->frame.y + 3, 7, 16}));
+}
+
+TEST_F(VolumenPorAppVistaTest, EdgesTheMuteButtonOfAMutedApplicationInAmber) {
+    const auto escena = cara();
+    const auto* quitar = controlLabelled(escena, "Quitar silencio a Mensajes");
+    ASSERT_NE(quitar, nullptr);
+    std::vector<views::StrokeShape> suyos;
+    for (const auto& borde : support::all<views::StrokeShape>(escena))
+        if (borde.frame == quitar->frame.inset(0.5))
+            suyos.push_back(borde);
+    ASSERT_EQ(suyos.size(), 1u);
+    EXPECT_EQ(suyos[0].color, WO::ambar.opacity(0.35));
+    EXPECT_EQ(suyos[0].lineWidth, 1);
+}
+
 TEST_F(VolumenPorAppVistaTest, MutesWhatSounds) {
     const auto escena = cara();
     const auto* silenciar = controlLabelled(escena, "Silenciar Música");
