@@ -7,6 +7,7 @@
 #include "platform/widgets/WidgetCenter.hpp"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 namespace anfitrion {

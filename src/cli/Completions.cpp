@@ -111,16 +111,16 @@ std::string zshCompletions(const std::vector<CommandRow>& table) {
     for (const CommandRow& command : table) {
         names += "        " +
                  quoted(command.name + ":" + zshText(command.description), posixQuote) + "\n";
-        std::string specifications;
+        std::string arguments;
         for (const ArgumentRow& option : command.options)
             for (const std::string& name : option.names)
-                specifications +=
+                arguments +=
                     " " + quoted(name + "[" + zshText(option.description) + "]" + zshValue(option),
                                  posixQuote);
         for (const ArgumentRow& argument : command.arguments)
-            specifications +=
+            arguments +=
                 " " + quoted((argument.isRepeated ? "*" : "") + zshValue(argument), posixQuote);
-        cases += "        " + command.name + ") _arguments" + specifications + " ;;\n";
+        cases += "        " + command.name + ") _arguments" + arguments + " ;;\n";
     }
     return "#compdef nurva\n"
            "_nurva() {\n"
