@@ -7,6 +7,7 @@
 #include "estado/EstadoParaWidgets.hpp"
 #include "peticiones/Peticion.hpp"
 #include "platform/foundation/json/JSONEncoder.hpp"
+#include "platform/foundation/text/UTF8.hpp"
 
 #include <CLI/CLI.hpp>
 
@@ -28,7 +29,7 @@ template <class Value>
 std::string json(const std::string& file, const FileReport<Value>& report) {
     foundation::Encoder encoder;
     encoder.encodeObject([&] {
-        encoder.encodeMember("file", file);
+        encoder.encodeMember("file", foundation::repairedUTF8(file));
         encoder.encodeMember("ok", report.value.has_value());
         encoder.encodeMember("value", report.value);
         if (report.refusal) {

@@ -8,6 +8,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <exception>
 #include <iostream>
 #include <memory>
 #include <string>
@@ -94,6 +95,8 @@ int run(int argumentCount, const char* const* arguments) {
         return report(ExitStatus::wrongUse, wrongUse(app, error));
     } catch (const Failure& failure) {
         return report(failure.status, failure.what());
+    } catch (const std::exception& fault) {
+        return report(ExitStatus::couldNot, fault.what());
     }
 }
 

@@ -63,6 +63,17 @@ TEST_F(CommandLine, SaysWhetherARequestIsAccepted) {
               "silenciar, volumen");
 }
 
+TEST_F(CommandLine, NamesAFileThatIsNoUTF8AndGoesOn) {
+    for (const std::string& name : {file("{}", "\xFF.json"), std::string("'\xFF.json'")}) {
+        const Outcome outcome = nurva("check --json " + name + " " + example);
+        EXPECT_EQ(outcome.status, 1) << outcome.errors;
+        const std::size_t end = outcome.output.find('\n');
+        const json refused = json::parse(outcome.output.substr(0, end));
+        EXPECT_TRUE(refused["file"].get<std::string>().ends_with("\uFFFD.json")) << refused;
+        EXPECT_TRUE(json::parse(outcome.output.substr(end))["ok"]);
+    }
+}
+
 TEST_F(CommandLine, SaysWhereATextIsNoJSONAndWhichNumberDoesNotFit) {
     EXPECT_NE(nurva("check " + file("{\"perfil\":\n  x}")).output.find("línea 2, columna 3"),
               std::string::npos);

@@ -262,6 +262,16 @@ TEST_F(CommandLine, SendsNothingForAnActionThatIsNotWhole) {
     EXPECT_FALSE(std::filesystem::exists(container() / "peticion.json"));
 }
 
+TEST_F(CommandLine, EndsWithAMessageWhateverGoesWrong) {
+    const Outcome outcome = nurva(
+        "render nurva.queEstaPuesto --format json --family-size 1.7e308x1.7e308 "
+        "--now 804686460 --state " +
+        example);
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_TRUE(outcome.errors.starts_with("nurva: ")) << outcome.errors;
+}
+
 TEST_F(CommandLine, StopsAtALevelThatCannotBeShownAndSaysSo) {
     json loud = snapshot();
     loud["apps"][0]["nivel"] = 1e300;

@@ -8,17 +8,37 @@ bool isBetween(char byte, unsigned low, unsigned high) {
     return low <= value && value <= high;
 }
 
+/// The end of the character that begins at `begin`; null where none does.
+const char* endOfCharacter(const char* begin, const char* end) {
+    return isBetween(*begin, 0, 0x7F) ? begin + 1 : endOfSequence(begin, end);
+}
+
 }  // namespace
 
 bool isUTF8(std::string_view bytes) {
     const char* at = bytes.data();
     const char* const end = at + bytes.size();
     while (at != end) {
-        at = static_cast<unsigned char>(*at) < 0x80 ? at + 1 : endOfSequence(at, end);
+        at = endOfCharacter(at, end);
         if (at == nullptr)
             return false;
     }
     return true;
+}
+
+std::string repairedUTF8(std::string_view bytes) {
+    std::string text;
+    const char* const end = bytes.data() + bytes.size();
+    for (const char* at = bytes.data(); at != end;) {
+        if (const char* const next = endOfCharacter(at, end)) {
+            text.append(at, next);
+            at = next;
+        } else {
+            appendUTF8(text, 0xFFFD);
+            ++at;
+        }
+    }
+    return text;
 }
 
 const char* endOfSequence(const char* begin, const char* end) {

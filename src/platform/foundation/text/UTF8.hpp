@@ -17,6 +17,9 @@ bool isUTF8(std::string_view bytes);
 /// that `begin` is not the end.
 const char* endOfSequence(const char* begin, const char* end);
 
+/// The bytes as UTF-8: each that belongs to no character becomes U+FFFD.
+std::string repairedUTF8(std::string_view bytes);
+
 /// Adds a character to a text; a number that is no character becomes U+FFFD.
 void appendUTF8(std::string& text, char32_t character);
 

@@ -42,5 +42,12 @@ TEST(UTF8, MalformedSequencesAreNone) {
         EXPECT_FALSE(isUTF8(bytes)) << testing::PrintToString(bytes);
 }
 
+TEST(UTF8, EachByteOfNoCharacterIsRepaired) {
+    EXPECT_EQ(repairedUTF8(""), "");
+    EXPECT_EQ(repairedUTF8("a\0ñ€😀"sv), "a\0ñ€😀"sv);
+    EXPECT_EQ(repairedUTF8("\xFF.json"), "\uFFFD.json");
+    EXPECT_EQ(repairedUTF8("a\xE2\x82z\xC3"), "a\uFFFD\uFFFDz\uFFFD");
+}
+
 }  // namespace
 }  // namespace foundation
