@@ -39,7 +39,10 @@ std::string json(const widgets::AnyEntry& entry, std::optional<foundation::Date>
     encoder.encodeObject([&] {
         encoder.encodeMember("date", entry.date());
         entry.encodeState(encoder, "state");
-        encoder.encodeMember("reloadAfter", reloadAfter);
+        if (reloadAfter)
+            encoder.encodeMember("reloadAfter", *reloadAfter);
+        else
+            encoder.encodeMember("reloadAfter", nullptr);
     });
     return encoder.text() + "\n";
 }

@@ -20,7 +20,7 @@ struct RenderedEntry {
 /// The face as JSON, ending in a line break.
 std::string json(const RenderedEntry& rendered);
 
-/// An entry as JSON, ending in a line break; without a date to reload at where it has none.
+/// An entry as JSON, ending in a line break; with null where it has no date to reload at.
 std::string json(const widgets::AnyEntry& entry, std::optional<foundation::Date> reloadAfter);
 
 }  // namespace cli

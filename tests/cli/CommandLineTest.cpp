@@ -115,7 +115,7 @@ TEST_F(CommandLine, PrintsThePlaceholderWhateverTheContainerHolds) {
     EXPECT_EQ(entry["date"], 5);
     EXPECT_EQ(entry["state"]["perfil"], "Música");
     EXPECT_EQ(entry["state"]["cuando"], 5);
-    EXPECT_FALSE(entry.contains("reloadAfter"));
+    EXPECT_EQ(entry.at("reloadAfter"), nullptr);
 }
 
 TEST_F(CommandLine, LinesUpTheHelpWhateverTheLanguage) {
