@@ -3,6 +3,7 @@
 #include "cli/Commands.hpp"
 #include "cli/Failure.hpp"
 #include "cli/Message.hpp"
+#include "cli/OutputFile.hpp"
 #include "cli/WrongUse.hpp"
 
 #include <CLI/CLI.hpp>
@@ -11,6 +12,7 @@
 #include <exception>
 #include <iostream>
 #include <memory>
+#include <sstream>
 #include <string>
 
 namespace cli {
@@ -59,6 +61,17 @@ void speakUsersLanguage(CLI::App& app) {
     addHelp(app);
 }
 
+/// Does what the arguments say, or shows the help that they ask for.
+void parse(CLI::App& app, int argumentCount, const char* const* arguments) {
+    try {
+        app.parse(argumentCount, arguments);
+    } catch (const CLI::Success& help) {
+        std::ostringstream text;
+        app.exit(help, text);
+        writeOutput({}, text.str());
+    }
+}
+
 }  // namespace
 
 int run(int argumentCount, const char* const* arguments) {
@@ -87,10 +100,8 @@ int run(int argumentCount, const char* const* arguments) {
     addManual(app);
     app.get_subcommand("manual")->group("");
     try {
-        app.parse(argumentCount, arguments);
+        parse(app, argumentCount, arguments);
         return static_cast<int>(ExitStatus::done);
-    } catch (const CLI::Success& help) {
-        return app.exit(help);
     } catch (const CLI::ParseError& error) {
         return report(ExitStatus::wrongUse, wrongUse(app, error));
     } catch (const Failure& failure) {

@@ -142,6 +142,15 @@ TEST_F(CommandLine, LeavesNoPartOfAFileBehind) {
     EXPECT_EQ(nurva(draw + " --output a.png && ls -A").output, "a.png\nerr\nout\n");
 }
 
+TEST_F(CommandLine, SaysThatItsHelpCouldNotBeWritten) {
+    for (const char* arguments : {"--help", "--version", "render --help"}) {
+        const Outcome outcome = nurva(std::string(arguments) + " >/dev/full");
+        EXPECT_EQ(outcome.status, 1) << arguments;
+        EXPECT_TRUE(outcome.errors.starts_with("nurva: no se puede escribir la salida: "))
+            << outcome.errors;
+    }
+}
+
 TEST_F(CommandLine, KeepsTheOldFileWhenTheNewOneIsRefused) {
     const Outcome outcome =
         nurva("render nurva.queEstaPuesto --scale 1e9 --output a.png; echo old >b; cat b");
