@@ -91,6 +91,8 @@ void render(const RenderOptions& options) {
     std::string bytes;
     try {
         bytes = drawn(rendered, options.format, fonts);
+    } catch (const canvas::EmptyPicture&) {
+        throw Failure(ExitStatus::wrongUse, message("la imagen sería demasiado pequeña"));
     } catch (const std::invalid_argument&) {
         throw Failure(ExitStatus::wrongUse, message("la imagen sería demasiado grande"));
     }

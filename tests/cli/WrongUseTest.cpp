@@ -25,6 +25,7 @@ TEST_F(CommandLine, RefusesWrongUseWithAMessage) {
                                   "render nurva.queEstaPuesto --family-size 1e9x1e9",
                                   "render nurva.queEstaPuesto sobra",
                                   "render nurva.queEstaPuesto --sobra",
+                                  "render nurva.queEstaPuesto --scale 1e-9",
                                   "timeline nurva.nada",
                                   "placeholder",
                                   "check"}) {
@@ -51,6 +52,9 @@ TEST_F(CommandLine, NamesWhatIsWrongInTheUsersWords) {
         {"render nurva.tuCuarto --format gif",
          "no sirve: --format gif (png, svg o json; si falta, png)\n"},
         {"render nurva.tuCuarto --state", "no sirve: --state (Archivo del estado"},
+        {"render nurva.tuCuarto --scale 1e-9", "la imagen sería demasiado pequeña\n"},
+        {"render nurva.tuCuarto --format svg --scale 1e-9", "la imagen sería demasiado pequeña\n"},
+        {"render nurva.tuCuarto --scale 1e9", "la imagen sería demasiado grande\n"},
         {"completions ksh", "no sirve: shell ksh (bash, zsh o fish)\n"},
         {"check-request",
          "falta algo en la orden: files\n       ayuda: nurva check-request --help"},

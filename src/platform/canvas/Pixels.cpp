@@ -1,7 +1,6 @@
 #include "platform/canvas/Pixels.hpp"
 
 #include <cmath>
-#include <stdexcept>
 
 namespace canvas {
 
@@ -17,7 +16,7 @@ PixelSize pixelSize(const views::Size& size, double scale) {
     const double height = std::round(size.height * scale);
     const bool positive = scale > 0 && width >= 1 && height >= 1;
     if (!positive)
-        throw std::invalid_argument("a picture needs a positive size and scale");
+        throw EmptyPicture("a picture needs a positive size and scale");
     if (!(width <= longestSide && height <= longestSide && width * height <= largestPicture))
         throw std::invalid_argument("the picture would be too large");
     return {static_cast<int>(width), static_cast<int>(height)};

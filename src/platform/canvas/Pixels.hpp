@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <stdexcept>
 
 namespace canvas {
 
@@ -18,8 +19,14 @@ struct PixelSize {
     }
 };
 
-/// Pixels of a card at a scale, each side rounded. Throws std::invalid_argument for a size or scale
-/// that is not a positive number or comes to more pixels than a picture may have.
+/// A picture would have no pixel.
+struct EmptyPicture : std::invalid_argument {
+    using std::invalid_argument::invalid_argument;
+};
+
+/// Pixels of a card at a scale, each side rounded. Throws EmptyPicture for a size or scale that is
+/// not a positive number or comes to no pixel, and std::invalid_argument for one that comes to more
+/// pixels than a picture may have.
 PixelSize pixelSize(const views::Size& size, double scale);
 
 /// A look at a picture: premultiplied ARGB, one number in machine order per pixel, rows from the
