@@ -1,6 +1,7 @@
 #include "cli/CommandLine.hpp"
 
 #include "cli/Commands.hpp"
+#include "cli/EmptyValues.hpp"
 #include "cli/Failure.hpp"
 #include "cli/Message.hpp"
 #include "cli/OutputFile.hpp"
@@ -95,6 +96,7 @@ int run(int argumentCount, const char* const* arguments) {
     for (CLI::App* command : app.get_subcommands({})) {
         command->group(message("Órdenes"));
         addHelp(*command);
+        refuseEmptyValues(*command);
     }
     // For those who package, not for the help.
     addManual(app);

@@ -44,7 +44,7 @@ std::string wrongValue(const CLI::App& command, const std::string& detail) {
             continue;
         std::string given = name;
         for (const std::string& value : option->results())
-            given += " " + value;
+            given += " " + (value.empty() ? "''" : value);
         return message("un valor de la orden no sirve: %@ (%@)",
                        {given, option->get_description()});
     }
