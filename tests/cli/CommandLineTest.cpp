@@ -183,6 +183,14 @@ TEST_F(CommandLine, TellsWhatKindOfValueAnOptionTakes) {
     EXPECT_NE(check.find("files FILE ..."), std::string::npos) << check;
 }
 
+TEST_F(CommandLine, SaysWhyAFileCannotBeReadAsTheSystemDoes) {
+    const std::string spanish = "env -u LC_ALL -u LC_MESSAGES LANG=C.UTF-8 LANGUAGE=es ";
+    const Outcome outcome = support::run("ln -s loop loop; " + spanish + "cat loop; " + spanish +
+                                         NURVA_PROGRAM " check loop");
+    const std::string reason = outcome.errors.substr(outcome.errors.rfind(": "));
+    EXPECT_EQ(outcome.output, "loop: rechazado (unreadable)" + reason);
+}
+
 TEST_F(CommandLine, WritesNumbersOfTheSceneTheSameInEveryLocale) {
     const std::string draw =
         "render nurva.queEstaPuesto --format json --now 804686460.5 --state " + example;
