@@ -37,7 +37,8 @@ void examine() {
     const foundation::Environment environment = foundation::processEnvironment();
     std::vector<Finding> findings;
     for (auto& group : {bundleFindings(environment), containerFindings(environment), busFindings(),
-                        extensionFindings(), sandboxFindings(), fontFindings(), displayFindings()})
+                        extensionFindings(), sandboxFindings(sandbox::available()), fontFindings(),
+                        displayFindings()})
         std::ranges::copy(group, std::back_inserter(findings));
     std::string report;
     for (const Finding& finding : findings)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/foundation/Environment.hpp"
+#include "platform/sandbox/Confinement.hpp"
 
 #include <string>
 #include <vector>
@@ -22,7 +23,7 @@ std::vector<Finding> containerFindings(const foundation::Environment& environmen
 std::vector<Finding> bundleFindings(const foundation::Environment& environment);
 std::vector<Finding> busFindings();
 std::vector<Finding> extensionFindings();
-std::vector<Finding> sandboxFindings();
+std::vector<Finding> sandboxFindings(const sandbox::Confinement& confinement);
 std::vector<Finding> fontFindings();
 std::vector<Finding> displayFindings();
 

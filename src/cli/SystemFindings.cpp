@@ -3,7 +3,6 @@
 #include "platform/foundation/EnvironmentVariables.hpp"
 #include "platform/foundation/bundle/InstalledProgram.hpp"
 #include "platform/foundation/notifications/SessionBus.hpp"
-#include "platform/sandbox/Confinement.hpp"
 #include "platform/widgets/WidgetCenter.hpp"
 #include "widgethost/MainLoop.hpp"
 #include "widgethost/Session.hpp"
@@ -77,8 +76,7 @@ std::vector<Finding> extensionFindings() {
     }
 }
 
-std::vector<Finding> sandboxFindings() {
-    const sandbox::Confinement confinement = sandbox::available();
+std::vector<Finding> sandboxFindings(const sandbox::Confinement& confinement) {
     std::vector<Finding> findings;
     if (confinement.landlockABI > 0)
         findings.push_back({holds,
@@ -95,6 +93,11 @@ std::vector<Finding> sandboxFindings() {
     else
         findings.push_back({note, message("este núcleo no filtra llamadas (seccomp)"),
                             message("usa un núcleo con CONFIG_SECCOMP_FILTER")});
+    if (!confinement.isComplete())
+        findings.push_back({note,
+                            message("este núcleo no da el aislamiento entero: nurva desktop "
+                                    "--require-sandbox no arranca la extensión"),
+                            message("lo da un núcleo 6.12 o posterior con Landlock y seccomp")});
     return findings;
 }
 

@@ -1,6 +1,7 @@
 #include "cli/CommandLine.hpp"
 #include "cli/Findings.hpp"
 #include "platform/foundation/SystemClock.hpp"
+#include "platform/sandbox/LandlockRights.hpp"
 
 #include <seccomp.h>
 #include <unistd.h>
@@ -115,6 +116,22 @@ TEST_F(Doctor, SaysThatTheSystemHasNoWatchLeftForAFolder) {
 TEST(Findings, SayWhyTheExtensionCannotBeStarted) {
     EXPECT_EXIT(examineExtensionWithoutTimers(), testing::ExitedWithCode(0),
                 "no se puede arrancar la extensión: timerfd: ");
+}
+
+TEST(Findings, NoteWhereTheKernelDoesNotGrantTheWholeIsolation) {
+    using enum cli::Finding::Kind;
+    const auto kinds = [](int landlock, bool callsAreFiltered) {
+        std::vector<cli::Finding::Kind> all;
+        for (const cli::Finding& finding : cli::sandboxFindings({landlock, callsAreFiltered})) {
+            EXPECT_EQ(finding.advice.empty(), finding.kind == holds) << finding.text;
+            all.push_back(finding.kind);
+        }
+        return all;
+    };
+    EXPECT_EQ(kinds(0, true), (std::vector{note, holds, note}));
+    EXPECT_EQ(kinds(2, true), (std::vector{holds, holds, note}));
+    EXPECT_EQ(kinds(sandbox::newestLandlockABI, false), (std::vector{holds, note, note}));
+    EXPECT_EQ(kinds(sandbox::newestLandlockABI, true), (std::vector{holds, holds}));
 }
 
 TEST_F(CommandLine, LooksForABusEvenWhereThereIsNone) {
