@@ -3,6 +3,7 @@
 #include "cli/FileReport.hpp"
 #include "cli/Message.hpp"
 #include "cli/OutputFile.hpp"
+#include "cli/PlainWords.hpp"
 #include "cli/StateFile.hpp"
 #include "estado/EstadoParaWidgets.hpp"
 #include "peticiones/Peticion.hpp"
@@ -61,7 +62,8 @@ void check(const CheckOptions& options) {
 template <class Value>
 void addChecking(CLI::App& command, const std::string& files) {
     const auto options = std::make_shared<CheckOptions>();
-    command.add_option("files", options->files, files)->required()->type_name("FILE");
+    takePlainWords(
+        *command.add_option("files", options->files, files)->required()->type_name("FILE"));
     command.add_flag("--json", options->asJSON, message("Una línea de JSON por archivo"));
     command.callback([options] { check<Value>(*options); });
 }

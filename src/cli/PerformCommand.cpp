@@ -1,6 +1,7 @@
 #include "cli/Commands.hpp"
 #include "cli/Failure.hpp"
 #include "cli/Message.hpp"
+#include "cli/PlainWords.hpp"
 #include "peticiones/Acciones.hpp"
 #include "platform/foundation/Environment.hpp"
 #include "platform/intents/ActionRuntime.hpp"
@@ -72,8 +73,8 @@ void addPerform(CLI::App& app) {
         *app.add_subcommand("perform", message("Ejecuta una acción, como al pulsar un control"));
     command.add_option("action", options->action, message("La acción: %@", {actionNames()}))
         ->required();
-    command.add_option("values", options->values,
-                       message("Sus valores, por ejemplo clave=a nivel=0.5"));
+    takePlainWords(*command.add_option("values", options->values,
+                                       message("Sus valores, por ejemplo clave=a nivel=0.5")));
     command.callback([options] { perform(*options); });
 }
 

@@ -74,6 +74,17 @@ TEST_F(CommandLine, NamesAFileThatIsNoUTF8AndGoesOn) {
     }
 }
 
+TEST_F(CommandLine, TakesTheNameOfAFileAsItStands) {
+    for (const std::string name : {"[x]", "[]", "[a,b]", "{x}", "a,b", "-x", "render"}) {
+        const Outcome outcome =
+            support::run("cp " + example + " './" + name + "' && " NURVA_PROGRAM " check --json " +
+                         example + " -- '" + name + "'");
+        EXPECT_EQ(outcome.status, 0) << outcome.output << outcome.errors;
+        EXPECT_NE(outcome.output.find("\"file\":\"" + name + "\""), std::string::npos)
+            << outcome.output;
+    }
+}
+
 TEST_F(CommandLine, SaysWhereATextIsNoJSONAndWhichNumberDoesNotFit) {
     EXPECT_NE(nurva("check " + file("{\"perfil\":\n  x}")).output.find("línea 2, columna 3"),
               std::string::npos);
