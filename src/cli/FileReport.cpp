@@ -97,13 +97,20 @@ std::optional<std::string> whyNoPlace(const std::string& group) {
     return message("no se sabe cuál es tu carpeta: falta HOME");
 }
 
+std::optional<std::string> whyNoContainer(const foundation::Environment& environment) {
+    const std::string& group = nurva::GrupoDeApps::id(environment);
+    if (environment.fileManager.containerURL(group))
+        return std::nullopt;
+    return whyNoPlace(group).value_or(
+        message("no existe el contenedor del grupo %@; abre Nurva una vez", {group}));
+}
+
 std::optional<std::string> whyNoSnapshot(const foundation::Environment& environment,
                                          const std::optional<std::string>& given) {
     const std::string& group = nurva::GrupoDeApps::id(environment);
     const auto container = environment.fileManager.containerURL(group);
     if (!container)
-        return whyNoPlace(group).value_or(
-            message("no existe el contenedor del grupo %@; abre Nurva una vez", {group}));
+        return whyNoContainer(environment);
     const std::filesystem::path file = *container / nurva::archivoDeEstado;
     const auto report = reportOn<nurva::EstadoParaWidgets>(environment.fileManager, file);
     if (!report.refusal)

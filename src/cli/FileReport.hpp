@@ -32,6 +32,9 @@ std::string text(const std::string& file, const Refusal& refusal);
 /// Why nobody can say where the container of a group would lie; nothing where it is known.
 std::optional<std::string> whyNoPlace(const std::string& group);
 
+/// Why the group has no container in this environment; nothing where it has one.
+std::optional<std::string> whyNoContainer(const foundation::Environment& environment);
+
 /// Why the widgets have no snapshot in this environment; nothing where they have one. Names the
 /// file as it was given, or where it lies in the container.
 std::optional<std::string> whyNoSnapshot(const foundation::Environment& environment,

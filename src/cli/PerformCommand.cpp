@@ -1,10 +1,10 @@
 #include "cli/Commands.hpp"
 #include "cli/Failure.hpp"
+#include "cli/FileReport.hpp"
 #include "cli/Message.hpp"
 #include "cli/PlainWords.hpp"
 #include "peticiones/Acciones.hpp"
 #include "platform/foundation/Environment.hpp"
-#include "platform/intents/ActionRuntime.hpp"
 #include "platform/intents/ArchivedFromText.hpp"
 #include "platform/intents/IntentError.hpp"
 
@@ -56,10 +56,13 @@ std::string text(const intents::IntentError& error) {
 void perform(const PerformOptions& options) {
     const intents::IntentRegistry& registry = nurva::acciones();
     const foundation::Environment environment = foundation::processEnvironment();
-    intents::ActionRuntime runtime(registry);
     try {
         const auto& description = registry.description(options.action);
-        runtime.perform(intents::archivedFromText(description, options.values), environment).get();
+        const auto performance =
+            registry.performance(intents::archivedFromText(description, options.values));
+        if (const auto reason = whyNoContainer(environment))
+            throw Failure(ExitStatus::couldNot, *reason);
+        performance(environment);
     } catch (const intents::IntentError& error) {
         throw Failure(ExitStatus::wrongUse, text(error));
     }

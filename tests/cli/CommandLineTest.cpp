@@ -271,12 +271,24 @@ TEST_F(CommandLine, SendsNothingForAnActionThatIsNotWhole) {
     for (const char* arguments :
          {"Nada", "PonerVolumen", "PonerVolumen clave=a", "PonerVolumen clave=a nivel=medio",
           "PonerVolumen clave=a nivel=1 otro=2", "PonerVolumen clave=a clave=b nivel=1",
-          "SilenciarApp clave=a silenciar=quizás", "AlternarEncendido x=1", "PonerPerfil p1"}) {
+          "SilenciarApp clave=a silenciar=quizás", "AlternarEncendido x=1", "PonerPerfil p1",
+          "PonerPerfil '[id=a]'", "PonerPerfil id=a '[]'", "PonerVolumen clave=a nivel=nan",
+          "PonerVolumen clave=a nivel=inf", "PonerPerfil 'id=\xFF'"}) {
         const Outcome outcome = nurva(std::string("perform ") + arguments);
         EXPECT_EQ(outcome.status, 2) << arguments;
         EXPECT_TRUE(outcome.errors.starts_with("nurva: ")) << arguments;
     }
     EXPECT_FALSE(std::filesystem::exists(container() / "peticion.json"));
+}
+
+TEST_F(CommandLine, SaysWhyARequestCannotBeSent) {
+    std::filesystem::remove_all(container());
+    const Outcome outcome = nurva("perform AlternarEncendido");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.errors,
+              "nurva: no existe el contenedor del grupo group.org.nurva.Nurva; abre Nurva una "
+              "vez\n");
+    EXPECT_EQ(nurva("perform PonerPerfil").status, 2) << "that comes first";
 }
 
 TEST_F(CommandLine, EndsWithAMessageWhateverGoesWrong) {

@@ -1,8 +1,10 @@
 #include "platform/intents/ArchivedFromText.hpp"
 
+#include "platform/foundation/text/UTF8.hpp"
 #include "platform/intents/IntentError.hpp"
 
 #include <charconv>
+#include <cmath>
 #include <optional>
 #include <string_view>
 
@@ -23,7 +25,7 @@ std::optional<ParameterValue> number(std::string_view text) {
     double value = 0;
     const char* const end = text.data() + text.size();
     const auto read = std::from_chars(text.data(), end, value);
-    if (read.ec != std::errc() || read.ptr != end)
+    if (read.ec != std::errc() || read.ptr != end || !std::isfinite(value))
         return std::nullopt;
     return value;
 }
@@ -31,7 +33,7 @@ std::optional<ParameterValue> number(std::string_view text) {
 std::optional<ParameterValue> parsed(Type type, std::string_view text) {
     switch (type) {
         case Type::text:
-            return std::string(text);
+            return foundation::isUTF8(text) ? std::optional(std::string(text)) : std::nullopt;
         case Type::truth:
             return truth(text);
         case Type::number:
