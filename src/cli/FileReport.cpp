@@ -92,6 +92,9 @@ std::string text(const std::string& file, const Refusal& refusal) {
 }
 
 std::optional<std::string> whyNoPlace(const std::string& group) {
+    if (!foundation::DefaultFileManager::namesContainer(group))
+        return message("el paquete no nombra ningún grupo que pueda ser una carpeta: «%@»",
+                       {group});
     if (foundation::DefaultFileManager().containerPlace(group))
         return std::nullopt;
     return message("no se sabe cuál es tu carpeta: falta HOME");

@@ -5,6 +5,7 @@
 #include "estado/GrupoDeApps.hpp"
 #include "platform/canvas/FontFiles.hpp"
 #include "platform/foundation/bundle/Entitlements.hpp"
+#include "platform/foundation/files/DefaultFileManager.hpp"
 #include "vistas/Cara.hpp"
 
 #include <algorithm>
@@ -35,6 +36,9 @@ Finding snapshotFinding(const foundation::Environment& environment,
 
 std::vector<Finding> containerFindings(const foundation::Environment& environment) {
     const std::string& group = nurva::GrupoDeApps::id(environment);
+    if (!foundation::DefaultFileManager::namesContainer(group))
+        return {{lacks, whyNoPlace(group).value(),
+                 message("revisa GrupoDeApps en el Info.plist del paquete")}};
     const auto container = environment.fileManager.containerURL(group);
     std::vector<Finding> findings;
     const auto groups = foundation::Entitlements::of(environment.mainBundle).applicationGroups;

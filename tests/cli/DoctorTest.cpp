@@ -8,6 +8,7 @@
 
 #include <cerrno>
 #include <cstdlib>
+#include <fstream>
 #include <iostream>
 #include <vector>
 
@@ -86,6 +87,28 @@ TEST_F(Doctor, SeesABundleThatIsNotThereOrNotEntitled) {
     std::filesystem::create_directory(other);
     std::filesystem::copy(NURVA_RESOURCES_FOLDER "/NurvaWidgets.appex/Info.plist", other);
     EXPECT_TRUE(says(examine("NURVA_BUNDLE='" + other.string() + "'"), "no tiene permiso"));
+}
+
+TEST_F(Doctor, SaysThatTheBundleNamesNoGroupThatCanBeAFolder) {
+    for (const std::string group : {"", "a/b"}) {
+        const auto bundle = home.path() / "Other.appex";
+        std::filesystem::create_directory(bundle);
+        std::ofstream(bundle / "Info.plist")
+            << "<plist version=\"1.0\"><dict><key>CFBundleIdentifier</key><string>a</string>"
+               "<key>GrupoDeApps</key><string>"
+            << group << "</string></dict></plist>";
+        const std::string settings = "NURVA_BUNDLE='" + bundle.string() + "'";
+        const std::string said =
+            "el paquete no nombra ningún grupo que pueda ser una carpeta: «" + group + "»\n";
+        const Outcome outcome = examine(settings);
+        EXPECT_TRUE(says(outcome, "✗ " + said + "    revisa GrupoDeApps")) << outcome.output;
+        EXPECT_FALSE(says(outcome, "permiso")) << outcome.output;
+        for (const char* command : {"timeline nurva.tuCuarto", "perform AlternarEncendido"})
+            EXPECT_EQ(support::run("env -u LANGUAGE -u LC_ALL LANG=es_ES.UTF-8 " + settings +
+                                   " " NURVA_PROGRAM " " + command)
+                          .errors,
+                      "nurva: " + said);
+    }
 }
 
 TEST_F(Doctor, SaysThatTheSystemHasNoWatchLeftForAFolder) {

@@ -27,11 +27,6 @@ std::optional<std::filesystem::path> dataFolder(const EnvironmentVariables& vari
     return std::nullopt;
 }
 
-bool namesFolder(std::string_view identifier) {
-    return !identifier.empty() && identifier != "." && identifier != ".." &&
-           identifier.find_first_of(std::string_view("/\0", 2)) == std::string_view::npos;
-}
-
 }  // namespace
 
 DefaultFileManager::DefaultFileManager(const EnvironmentVariables& variables) {
@@ -39,9 +34,14 @@ DefaultFileManager::DefaultFileManager(const EnvironmentVariables& variables) {
         containers_ = *data / "group-containers";
 }
 
+bool DefaultFileManager::namesContainer(std::string_view groupIdentifier) {
+    return !groupIdentifier.empty() && groupIdentifier != "." && groupIdentifier != ".." &&
+           groupIdentifier.find_first_of(std::string_view("/\0", 2)) == std::string_view::npos;
+}
+
 std::optional<std::filesystem::path> DefaultFileManager::containerPlace(
     std::string_view groupIdentifier) const {
-    if (!containers_ || !namesFolder(groupIdentifier))
+    if (!containers_ || !namesContainer(groupIdentifier))
         return std::nullopt;
     return *containers_ / groupIdentifier;
 }

@@ -19,7 +19,11 @@ class DefaultFileManager : public FileManager {
     std::string contents(const std::filesystem::path& path) const override;
     void writeAtomically(std::string_view bytes, const std::filesystem::path& path) const override;
 
-    /// Where the group's container is or would be; nothing for a user without a home.
+    /// Whether a folder can be named after the group.
+    static bool namesContainer(std::string_view groupIdentifier);
+
+    /// Where the group's container is or would be; nothing for a user without a home, and for a
+    /// group that names none.
     std::optional<std::filesystem::path> containerPlace(std::string_view groupIdentifier) const;
 
     /// The group's container, made for the user alone where there is none. Throws FileError.

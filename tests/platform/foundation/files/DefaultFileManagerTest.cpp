@@ -44,10 +44,15 @@ TEST(DefaultFileManager, AnIdentifierNeverLeavesTheFolderOfContainers) {
     const auto manager = managerWith({{"XDG_DATA_HOME", data.path()}});
     ASSERT_TRUE(manager.containerURL("a").has_value());
     using namespace std::string_view_literals;
-    for (const std::string_view identifier : {""sv, "."sv, ".."sv, "a/b"sv, "a/"sv, "/a"sv,
-                                              "../group-containers/a"sv, "/"sv, "a\0"sv, "a\0b"sv})
+    for (const std::string_view identifier :
+         {""sv, "."sv, ".."sv, "a/b"sv, "a/"sv, "/a"sv, "../group-containers/a"sv, "/"sv, "a\0"sv,
+          "a\0b"sv}) {
+        EXPECT_FALSE(DefaultFileManager::namesContainer(identifier))
+            << testing::PrintToString(identifier);
         EXPECT_EQ(manager.containerURL(identifier), std::nullopt)
             << testing::PrintToString(identifier);
+    }
+    EXPECT_TRUE(DefaultFileManager::namesContainer("a"));
     EXPECT_EQ(manager.containerURL(std::string(5000, 'a')), std::nullopt);
 }
 
