@@ -4,6 +4,7 @@
 #include "cli/Message.hpp"
 #include "cli/OutputFile.hpp"
 #include "cli/RenderedEntry.hpp"
+#include "cli/ShownLevels.hpp"
 #include "cli/WidgetOptions.hpp"
 #include "platform/canvas/PNG.hpp"
 #include "platform/canvas/PangoTextMeasurer.hpp"
@@ -53,6 +54,7 @@ RenderedEntry renderedEntry(const RenderOptions& options,
     const canvas::PangoTextMeasurer measurer(fonts);
     const widgets::EntryRenderer renderer(environment, measurer);
     const widgets::AnyEntry& entry = timeline.entries.front();
+    requireLevelsToShow(widget, entry, environment.clock.now());
     return {
         .kind = options.widget.kind,
         .family = family,

@@ -9,21 +9,17 @@ namespace nurva {
 
 using namespace views;
 
-namespace {
-
-/// A moment in the future is current too; an age that is no number is not.
-bool vigente(const EstadoParaWidgets& e) {
-    return buildEnvironment().clock.now().timeIntervalSince(e.cuando) < segundosDeVigencia;
+bool vigente(const EstadoParaWidgets& e, foundation::Date ahora) {
+    return ahora.timeIntervalSince(e.cuando) < segundosDeVigencia;
 }
-
-}  // namespace
 
 View cara(const std::optional<EstadoParaWidgets>& e,
           const std::function<View(const EstadoParaWidgets&)>& contenido) {
     Idioma::fijar(e ? e->idioma : std::nullopt);
     WO::acentoHex = e ? e->acento : WO::acentoHexInicial;
-    const View visible =
-        e && vigente(*e) ? contenido(*e) : View(SinDatos{.cerrado = e.has_value()});
+    const View visible = e && vigente(*e, buildEnvironment().clock.now())
+                             ? contenido(*e)
+                             : View(SinDatos{.cerrado = e.has_value()});
     return visible.containerBackground(WO::fondo);
 }
 

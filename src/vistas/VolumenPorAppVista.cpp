@@ -88,6 +88,10 @@ View pie(bool dejaCambiar) {
         .foregroundStyle(WO::texto3);
 }
 
+double enPorciento(double nivel) {
+    return std::round(nivel * 100);
+}
+
 View contenido(const EstadoParaWidgets& e) {
     return VStack{.alignment = leading, .spacing = 9}({
         cabecera(e.apps),
@@ -98,14 +102,18 @@ View contenido(const EstadoParaWidgets& e) {
 
 }  // namespace
 
-std::string porciento(double nivel) {
-    const double redondo = std::round(nivel * 100);
+bool tienePorciento(double nivel) {
     constexpr double limite = 9223372036854775808.0;  // 2^63
-    if (!(redondo >= -limite && redondo < limite)) {
+    const double redondo = enPorciento(nivel);
+    return redondo >= -limite && redondo < limite;
+}
+
+std::string porciento(double nivel) {
+    if (!tienePorciento(nivel)) {
         std::fprintf(stderr, "nurva: a level of %g cannot be shown in per cent\n", nivel);
         std::abort();
     }
-    return std::to_string(static_cast<std::int64_t>(redondo)) + "%";
+    return std::to_string(static_cast<std::int64_t>(enPorciento(nivel))) + "%";
 }
 
 View VolumenPorAppVista::body() const {

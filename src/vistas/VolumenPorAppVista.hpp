@@ -14,8 +14,11 @@ struct VolumenPorAppVista {
     views::View body() const;
 };
 
-/// A level in per cent, halves away from zero, as "45%". A level that is no whole number of per
-/// cent within 64 bits stops the process with a message.
+/// Whether a level comes to a whole number of per cent within 64 bits.
+bool tienePorciento(double nivel);
+
+/// A level in per cent, halves away from zero, as "45%". A level that has none stops the process
+/// with a message.
 std::string porciento(double nivel);
 
 }  // namespace nurva

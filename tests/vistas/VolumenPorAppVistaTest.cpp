@@ -267,8 +267,12 @@ TEST(Porciento, RoundsHalvesAwayFromZero) {
 
 TEST(PorcientoDeathTest, StopsTheProcessAtWhatIsNoWholeNumber) {
     const double infinito = std::numeric_limits<double>::infinity();
-    for (const double nivel : {1e300, -1e300, 9.3e16, infinito, -infinito, std::nan("")})
+    for (const double nivel : {1e300, -1e300, 9.3e16, infinito, -infinito, std::nan("")}) {
+        EXPECT_FALSE(tienePorciento(nivel)) << nivel;
         EXPECT_DEATH(porciento(nivel), "cannot be shown in per cent") << nivel;
+    }
+    for (const double nivel : {0.0, -0.2, 9.2e16, -9.2e16})
+        EXPECT_TRUE(tienePorciento(nivel)) << nivel;
 }
 
 TEST(PorcientoDeathTest, LetsAMutedLevelBe) {

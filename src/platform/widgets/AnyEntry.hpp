@@ -4,6 +4,7 @@
 #include "platform/foundation/json/Encoder.hpp"
 #include "platform/views/view/View.hpp"
 
+#include <any>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -27,6 +28,7 @@ class AnyEntry {
     AnyEntry(Entry entry, std::function<views::View(const Entry&)> content)
         : date_(entry.date), hasState_(state(entry).has_value()) {
         const auto shared = std::make_shared<const Entry>(std::move(entry));
+        state_ = [shared] { return state(*shared) ? std::any(*state(*shared)) : std::any(); };
         content_ = [shared, content = std::move(content)] { return content(*shared); };
         encodeState_ = [shared](foundation::Encoder& encoder, std::string_view key) {
             if (state(*shared))
@@ -38,6 +40,13 @@ class AnyEntry {
 
     foundation::Date date() const { return date_; }
     bool hasState() const { return hasState_; }
+    /// The state; nothing where there is none, or one of another type.
+    template <class State>
+    std::optional<State> stateAs() const {
+        const std::any any = state_();
+        const State* const state = std::any_cast<State>(&any);
+        return state ? std::optional(*state) : std::nullopt;
+    }
     /// Builds the widget's view. Requires a build scope.
     views::View content() const { return content_(); }
     /// Writes the state, or null, as a member.
@@ -48,6 +57,7 @@ class AnyEntry {
   private:
     foundation::Date date_;
     bool hasState_;
+    std::function<std::any()> state_;
     std::function<views::View()> content_;
     std::function<void(foundation::Encoder&, std::string_view)> encodeState_;
 };

@@ -89,6 +89,9 @@ TEST(AnyEntry, TellsWhetherItHasAStateAndWritesIt) {
     EXPECT_EQ(written(full), R"({"state":1.5})");
     EXPECT_FALSE(empty.hasState());
     EXPECT_EQ(written(empty), R"({"state":null})");
+    EXPECT_EQ(full.stateAs<double>(), 1.5);
+    EXPECT_EQ(full.stateAs<int>(), std::nullopt);
+    EXPECT_EQ(empty.stateAs<double>(), std::nullopt);
 }
 
 }  // namespace
