@@ -1,10 +1,10 @@
 #include "cli/Commands.hpp"
 #include "cli/Failure.hpp"
 #include "cli/FileReport.hpp"
+#include "cli/GivenFile.hpp"
 #include "cli/Message.hpp"
 #include "cli/OutputFile.hpp"
 #include "cli/PlainWords.hpp"
-#include "cli/StateFile.hpp"
 #include "estado/EstadoParaWidgets.hpp"
 #include "peticiones/Peticion.hpp"
 #include "platform/foundation/json/JSONEncoder.hpp"
@@ -46,7 +46,7 @@ template <class Value>
 void check(const CheckOptions& options) {
     bool allAccepted = true;
     for (const std::string& file : options.files) {
-        const auto report = reportOn<Value>(StateFile(file), file);
+        const auto report = reportOn<Value>(GivenFile(file), file);
         allAccepted = allAccepted && report.value.has_value();
         if (options.asJSON)
             writeOutput({}, json(file, report));

@@ -93,13 +93,13 @@ int run(int argumentCount, const char* const* arguments) {
     addReload(app);
     addDoctor(app);
     addCompletions(app);
+    addManual(app);
     for (CLI::App* command : app.get_subcommands({})) {
         command->group(message("Órdenes"));
         addHelp(*command);
         refuseEmptyValues(*command);
     }
     // For those who package, not for the help.
-    addManual(app);
     app.get_subcommand("manual")->group("");
     try {
         parse(app, argumentCount, arguments);

@@ -69,7 +69,11 @@ void addDesktop(CLI::App& app) {
     command
         .add_option("--scale", options->scale,
                     message("Píxeles por punto, si no valen los de la pantalla"))
-        ->type_name("FLOAT");
+        ->type_name("FLOAT")
+        ->check([](const std::string& text) -> std::string {
+            double number = 0;
+            return CLI::detail::lexical_cast(text, number) ? "" : "no number";
+        });
     command.add_option("--extension", options->extension, message("El programa de la extensión"))
         ->type_name("FILE");
     command.add_flag("--require-sandbox", options->requireSandbox,

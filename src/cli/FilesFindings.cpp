@@ -17,6 +17,9 @@ namespace {
 
 using enum Finding::Kind;
 
+/// In seconds. Less than that two machines' clocks may differ.
+constexpr std::int64_t minuteOfAnotherClock = 60;
+
 Finding snapshotFinding(const foundation::Environment& environment,
                         const std::filesystem::path& file) {
     const auto report = reportOn<nurva::EstadoParaWidgets>(environment.fileManager, file);
@@ -25,6 +28,11 @@ Finding snapshotFinding(const foundation::Environment& environment,
                 message("abre Nurva, o revisa el archivo con nurva check")};
     const double age = environment.clock.now().timeIntervalSince(report.value->cuando);
     const auto seconds = static_cast<std::int64_t>(std::clamp(std::round(age), -1e12, 1e12));
+    if (seconds < -minuteOfAnotherClock)
+        return {
+            note,
+            message("estado: %@, con fecha de dentro de %lld segundos", {file.string(), -seconds}),
+            message("cuando se cuenta desde 2001-01-01 UTC")};
     if (age < nurva::segundosDeVigencia)
         return {holds, message("estado: %@, de hace %lld segundos", {file.string(), seconds})};
     return {note, message("estado: %@, de hace %lld segundos: los widgets dicen que Nurva está "

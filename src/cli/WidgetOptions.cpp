@@ -2,29 +2,20 @@
 
 #include "cli/Failure.hpp"
 #include "cli/FixedClock.hpp"
+#include "cli/GivenFile.hpp"
 #include "cli/Message.hpp"
-#include "cli/StateFile.hpp"
 #include "extension/NurvaWidgets.hpp"
-#include "platform/foundation/files/FileError.hpp"
 
 #include <CLI/CLI.hpp>
 
 #include <cmath>
-#include <cstring>
 
 namespace cli {
 
 namespace {
 
 std::unique_ptr<const foundation::FileManager> filesOf(const WidgetOptions& options) {
-    if (!options.state)
-        return nullptr;
-    try {
-        return std::make_unique<const StateFile>(*options.state);
-    } catch (const foundation::FileError& error) {
-        throw Failure(ExitStatus::couldNot, message("no se puede leer la entrada: %@",
-                                                    {std::string(std::strerror(error.code()))}));
-    }
+    return options.state ? std::make_unique<const GivenFile>(*options.state) : nullptr;
 }
 
 void requireFinite(double number) {

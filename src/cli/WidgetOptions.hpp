@@ -30,7 +30,7 @@ struct WidgetOptions {
 /// The world that the options describe: the process's own, but for what they name.
 class OptionsEnvironment {
   public:
-    /// Throws Failure when the snapshot on standard input is too large.
+    /// Throws Failure for a time that is no number.
     explicit OptionsEnvironment(const WidgetOptions& options);
 
     operator const foundation::Environment&() const { return environment_; }

@@ -46,6 +46,18 @@ TEST_F(CommandLine, RefusesWhatIsNoFile) {
     EXPECT_EQ(nurva("check /").status, 1);
 }
 
+TEST_F(CommandLine, RefusesTooMuchOnStandardInputAsItDoesInAFile) {
+    const std::string large = file(std::string((std::size_t{2} << 20) + 1, ' '), "large.json");
+    const json ofFile = json::parse(nurva("check --json " + large).output);
+    const json ofInput = json::parse(nurva("check --json - <" + large).output);
+    EXPECT_EQ(ofInput["kind"], "unreadable");
+    EXPECT_EQ(ofInput["reason"], ofFile["reason"]);
+    const Outcome drawn = nurva("timeline nurva.tuCuarto --state - <" + large);
+    EXPECT_EQ(drawn.status, 0);
+    EXPECT_EQ(json::parse(drawn.output)["state"], nullptr);
+    EXPECT_NE(drawn.errors.find("unreadable"), std::string::npos) << drawn.errors;
+}
+
 TEST_F(CommandLine, SaysWhetherARequestIsAccepted) {
     const std::string good = file(R"({"volumen":{"app":"a","nivel":0.5}})", "good.json");
     const std::string bad = file(R"({"silenciar":{"app":"a"}})", "bad.json");

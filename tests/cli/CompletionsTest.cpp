@@ -60,6 +60,7 @@ TEST_F(CommandLine, WritesItsCommandsForTheManual) {
     EXPECT_NE(outcome.output.find(".SS nurva check files ...\n"), std::string::npos);
     EXPECT_NE(outcome.output.find("\\fB\\-\\-now\\fR \\fINUMBER\\fR\n"), std::string::npos);
     EXPECT_EQ(nurva("--help").output.find("manual"), std::string::npos);
+    EXPECT_EQ(nurva("manual --help", "en_US.UTF-8").output.find("Opciones"), std::string::npos);
 }
 
 }  // namespace

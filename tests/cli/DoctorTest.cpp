@@ -80,6 +80,15 @@ TEST_F(Doctor, TellsTheAgeOfASnapshotAndThatItIsTooOld) {
     EXPECT_TRUE(says(outcome, "de hace 180")) << outcome.output;
 }
 
+TEST_F(Doctor, WondersAtASnapshotOfTheFuture) {
+    publishNow(-978307200);
+    const Outcome outcome = examine();
+    EXPECT_EQ(outcome.status, 0) << outcome.output;
+    EXPECT_TRUE(says(outcome, "· estado: ")) << outcome.output;
+    EXPECT_TRUE(says(outcome, "con fecha de dentro de 978")) << outcome.output;
+    EXPECT_TRUE(says(outcome, "desde 2001-01-01")) << outcome.output;
+}
+
 TEST_F(Doctor, SeesABundleThatIsNotThereOrNotEntitled) {
     publishNow();
     EXPECT_TRUE(says(examine("NURVA_BUNDLE=/nowhere"), "✗ no está el paquete"));

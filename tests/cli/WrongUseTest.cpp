@@ -39,6 +39,7 @@ TEST_F(CommandLine, RefusesWrongUseWithAMessage) {
                                   "timeline nurva.queEstaPuesto --state ''",
                                   "placeholder nurva.queEstaPuesto --now ''",
                                   "desktop --scale ''",
+                                  "desktop --scale grande",
                                   "desktop --extension ''",
                                   "host --demo --scene ''",
                                   "reload ''",

@@ -6,11 +6,11 @@
 
 namespace cli {
 
-/// A file manager whose every group container holds one snapshot: the file named on the command
+/// A file manager for which every file of every group container is the one named on the command
 /// line, or with "-" what stands on standard input, which is read once. Nothing can be written.
-class StateFile final : public foundation::FileManager {
+class GivenFile final : public foundation::FileManager {
   public:
-    explicit StateFile(std::string name);
+    explicit GivenFile(std::string name);
 
     std::optional<std::filesystem::path> containerURL(std::string_view group) const override;
     std::string contents(const std::filesystem::path& path) const override;

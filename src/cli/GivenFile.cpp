@@ -1,4 +1,4 @@
-#include "cli/StateFile.hpp"
+#include "cli/GivenFile.hpp"
 
 #include "platform/foundation/files/FileError.hpp"
 #include "platform/foundation/files/ReadFile.hpp"
@@ -13,32 +13,34 @@ namespace {
 
 constexpr std::string_view standardInput = "-";
 
-/// All of standard input, no more than of any file. Throws FileError.
+/// All of standard input, or so much of it that it is too large.
 std::string readStandardInput() {
     std::string input(foundation::maximumFileBytes + 1, '\0');
     std::cin.read(input.data(), static_cast<std::streamsize>(input.size()));
     input.resize(static_cast<std::size_t>(std::cin.gcount()));
-    if (input.size() > foundation::maximumFileBytes)
-        throw foundation::FileError(EFBIG, standardInput);
     return input;
 }
 
 }  // namespace
 
-StateFile::StateFile(std::string name) : name_(std::move(name)) {
+GivenFile::GivenFile(std::string name) : name_(std::move(name)) {
     if (name_ == standardInput)
         input_ = readStandardInput();
 }
 
-std::optional<std::filesystem::path> StateFile::containerURL(std::string_view) const {
+std::optional<std::filesystem::path> GivenFile::containerURL(std::string_view) const {
     return std::filesystem::path(name_).parent_path();
 }
 
-std::string StateFile::contents(const std::filesystem::path&) const {
-    return name_ == standardInput ? input_ : foundation::readFile(name_);
+std::string GivenFile::contents(const std::filesystem::path&) const {
+    if (name_ != standardInput)
+        return foundation::readFile(name_);
+    if (input_.size() > foundation::maximumFileBytes)
+        throw foundation::FileError(EFBIG, standardInput);
+    return input_;
 }
 
-void StateFile::writeAtomically(std::string_view, const std::filesystem::path& path) const {
+void GivenFile::writeAtomically(std::string_view, const std::filesystem::path& path) const {
     throw foundation::FileError(EROFS, path);
 }
 
