@@ -37,6 +37,15 @@ Placement decoded(const std::string& text) {
     return placement;
 }
 
+/// `….bad`, or the first of `….bad2`, `….bad3` that is nobody's.
+std::filesystem::path freeNameBeside(const std::filesystem::path& path) {
+    std::filesystem::path name = path.string() + ".bad";
+    std::error_code ignored;
+    for (int number = 2; std::filesystem::exists(symlink_status(name, ignored)); ++number)
+        name = path.string() + ".bad" + std::to_string(number);
+    return name;
+}
+
 }  // namespace
 
 PlacementFile::PlacementFile(std::filesystem::path path, Report report)
@@ -75,13 +84,18 @@ void PlacementFile::save(const Placement& placement) const {
 }
 
 void PlacementFile::keepAside(const std::string& reason) const {
-    std::filesystem::path aside = path_;
-    aside += ".bad";
+    const std::filesystem::path aside = freeNameBeside(path_);
     std::error_code error;
     std::filesystem::rename(path_, aside, error);
-    report_(foundation::message(
-        "no se entiende el sitio de los widgets (%@); se guarda aparte en %@ y se empieza de nuevo",
-        {reason, aside.string()}));
+    if (error)
+        report_(foundation::message(
+            "no se entiende el sitio de los widgets (%@) ni se puede apartar: %@",
+            {reason, error.message()}));
+    else
+        report_(
+            foundation::message("no se entiende el sitio de los widgets (%@); se guarda aparte "
+                                "en %@ y se empieza de nuevo",
+                                {reason, aside.string()}));
 }
 
 }  // namespace widgethost

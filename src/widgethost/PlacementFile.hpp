@@ -23,7 +23,7 @@ class PlacementFile {
         const foundation::EnvironmentVariables& variables);
 
     /// What was remembered; nothing where that is nothing yet, or where it cannot be read: then the
-    /// file is kept aside as `placement.json.bad`.
+    /// file is kept aside as `placement.json.bad`, with a number where an older one stands there.
     std::optional<Placement> load() const;
 
     /// Remembers a placement, on the disk when this returns. Never fails, but reports.

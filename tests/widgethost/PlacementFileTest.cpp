@@ -8,8 +8,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cerrno>
+#include <climits>
 #include <csignal>
 #include <cstdlib>
+#include <cstring>
 #include <iterator>
 
 namespace widgethost {
@@ -76,12 +79,37 @@ TEST_F(SavedPlacement, ThatMakesNoSenseIsKeptAsideWithAMessage) {
     }
     for (const std::string& text : texts) {
         reports.clear();
+        std::filesystem::remove(aside);
         write(text);
         EXPECT_EQ(file.load(), std::nullopt) << text;
         EXPECT_EQ(support::contentsOf(aside), text);
         EXPECT_FALSE(std::filesystem::exists(path));
         EXPECT_THAT(reports, testing::ElementsAre(testing::HasSubstr(aside.string()))) << text;
     }
+}
+
+TEST_F(SavedPlacement, ThatMakesNoSenseLeavesWhatWasKeptAsideBefore) {
+    std::filesystem::create_directories(aside);
+    for (const char* text : {"first", "second"}) {
+        write(text);
+        EXPECT_EQ(file.load(), std::nullopt);
+    }
+    EXPECT_TRUE(std::filesystem::is_directory(aside));
+    EXPECT_EQ(support::contentsOf(aside.string() + "2"), "first");
+    EXPECT_EQ(support::contentsOf(aside.string() + "3"), "second");
+    EXPECT_THAT(reports, testing::ElementsAre(testing::HasSubstr(aside.string() + "2"),
+                                              testing::HasSubstr(aside.string() + "3")));
+}
+
+TEST_F(SavedPlacement, ThatCannotBeKeptAsideStaysWhereItIs) {
+    const std::string longestName(NAME_MAX, 'x');
+    folder.write(longestName, "no placement");
+    std::vector<std::string> told;
+    const PlacementFile stuck(folder.path() / longestName,
+                              [&](const std::string& text) { told.push_back(text); });
+    EXPECT_EQ(stuck.load(), std::nullopt);
+    EXPECT_EQ(support::contentsOf(folder.path() / longestName), "no placement");
+    EXPECT_THAT(told, testing::ElementsAre(testing::HasSubstr(std::strerror(ENAMETOOLONG))));
 }
 
 TEST_F(SavedPlacement, ThatIsAFolderIsKeptAsideToo) {
