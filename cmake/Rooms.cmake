@@ -54,6 +54,16 @@ set(NURVA_TEST_ENVIRONMENT
 # In seconds. Only what hangs takes so long, under sanitizers on a busy machine too.
 set(NURVA_TEST_TIMEOUT 1800)
 
+# GoogleTest takes the compiler longer than most tests: it is read once for the programs of tests.
+function(nurva_test_headers)
+    set(source ${PROJECT_BINARY_DIR}/test_headers.cpp)
+    file(CONFIGURE OUTPUT ${source} CONTENT "int main() {}\n")
+    add_executable(nurva_test_headers EXCLUDE_FROM_ALL ${source})
+    target_compile_options(nurva_test_headers PRIVATE -pthread)
+    target_link_libraries(nurva_test_headers PRIVATE nurva_options GTest::gtest)
+    target_precompile_headers(nurva_test_headers PRIVATE <gtest/gtest.h>)
+endfunction()
+
 # A program of tests. DEFINITIONS are for its sources; PROGRAMS are built before it is run.
 function(nurva_test_program name)
     cmake_parse_arguments(ARG "" "" "SOURCES;ROOMS;LIBRARIES;DEFINITIONS;PROGRAMS" ${ARGN})
@@ -66,6 +76,8 @@ function(nurva_test_program name)
         ${ARG_DEFINITIONS})
     target_link_libraries(${name}_test PRIVATE
         ${ARG_ROOMS} ${ARG_LIBRARIES} GTest::gmock GTest::gtest_main)
+    target_compile_options(${name}_test PRIVATE -pthread)
+    target_precompile_headers(${name}_test REUSE_FROM nurva_test_headers)
     if(ARG_PROGRAMS)
         add_dependencies(${name}_test ${ARG_PROGRAMS})
     endif()
