@@ -72,7 +72,7 @@ std::vector<Finding> extensionFindings() {
     } catch (const std::system_error& error) {
         return {{lacks,
                  message("no se puede arrancar la extensión: %@", {std::string(error.what())}),
-                 {}}};
+                 message("cierra otros programas y prueba de nuevo")}};
     }
 }
 
