@@ -3,6 +3,8 @@
 #include "widgethost/MainLoop.hpp"
 #include "widgethost/RateLimit.hpp"
 
+#include <algorithm>
+#include <chrono>
 #include <functional>
 #include <set>
 #include <string>
@@ -19,23 +21,24 @@ class ReloadPacing {
 
     explicit ReloadPacing(std::function<void(const Kinds&)> reload) : reload_(std::move(reload)) {}
 
-    void ask(std::string kind) {
+    /// `patience` is how long it may wait for something to join that comes anyway.
+    void ask(std::string kind, std::chrono::milliseconds patience = {}) {
         kinds_.insert(std::move(kind));
-        if (waiting_)
-            return;
         const Instant now = Instant::clock::now();
-        if (limit_.earliest() <= now)
+        const Instant due = std::max(limit_.earliest(), now + patience);
+        if (waiting_ && due_ <= due)
+            return;
+        due_ = due;
+        if (due <= now)
             pass();
         else
-            waiting_ = after(std::chrono::ceil<std::chrono::milliseconds>(limit_.earliest() - now),
-                             [this] {
-                                 waiting_.reset();
-                                 pass();
-                             });
+            waiting_ =
+                after(std::chrono::ceil<std::chrono::milliseconds>(due - now), [this] { pass(); });
     }
 
   private:
     void pass() {
+        waiting_.reset();
         limit_.happens(Instant::clock::now());
         reload_(std::exchange(kinds_, {}));
     }
@@ -45,6 +48,7 @@ class ReloadPacing {
     RateLimit limit_{4, std::chrono::milliseconds(200)};
     Kinds kinds_;
     Source waiting_;
+    Instant due_;  // while something waits
 };
 
 }  // namespace widgethost

@@ -4,6 +4,7 @@
 #include "widgethost/ContainerWatch.hpp"
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace widgethost {
@@ -13,13 +14,16 @@ namespace {
 /// A timeline that wants to be asked again at once would never let the machine rest.
 constexpr double shortestReload = 1;  // seconds
 
+/// The host application has mostly published by then what a press has changed.
+constexpr auto answerTime = std::chrono::milliseconds(10);
+
 }  // namespace
 
 Session::Contents::Contents(const SessionOptions& options)
     : pacing([this](const ReloadPacing::Kinds& kinds) { want(kinds); }),
       presses_([this](Slot slot) {
           if (const CardState* const pressed = card(slot))
-              pacing.ask(pressed->kind);
+              pacing.ask(pressed->kind, answerTime);
           goOn();
       }),
       timer_([this] { askWhoIsDue(); }),

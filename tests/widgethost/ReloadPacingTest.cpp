@@ -68,6 +68,25 @@ TEST_F(Paced, PassesOnOnceWhatIsAskedForWhileSomethingWaits) {
     EXPECT_EQ(passed.size(), before + 1);
 }
 
+TEST_F(Paced, LetsWhatHasPatienceJoinWhatHasNone) {
+    pacing.ask("a", 1h);
+    ASSERT_EQ(passed.size(), 0U);
+    pacing.ask("b", 2h);
+    pacing.ask("c");
+    ASSERT_EQ(passed.size(), 1U);
+    EXPECT_EQ(passed.back(), (ReloadPacing::Kinds{"a", "b", "c"}));
+}
+
+TEST_F(Paced, PassesOnWhatHasPatienceWhenItsTimeHasCome) {
+    pacing.ask("a", 2h);
+    pacing.ask("b", 5ms);
+    ASSERT_EQ(passed.size(), 0U);
+    ASSERT_TRUE(passes(1));
+    EXPECT_EQ(passed.back(), (ReloadPacing::Kinds{"a", "b"}));
+    pacing.ask("c", 5ms);
+    EXPECT_TRUE(passes(2));
+}
+
 TEST_F(Paced, NeverPassesOnMoreThanTwentyInASecond) {
     const Instant start = Instant::clock::now();
     while (passed.size() < 20) {
