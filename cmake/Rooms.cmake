@@ -54,7 +54,8 @@ set(NURVA_TEST_ENVIRONMENT
 # In seconds. Only what hangs takes so long, under sanitizers on a busy machine too.
 set(NURVA_TEST_TIMEOUT 1800)
 
-# GoogleTest takes the compiler longer than most tests: it is read once for the programs of tests.
+# GoogleTest takes the compiler longer than most tests: it is read once for the programs of tests. What was
+# read serves only where the flags are the same, and Pango's bring -pthread along: all tests have it.
 function(nurva_test_headers)
     set(source ${PROJECT_BINARY_DIR}/test_headers.cpp)
     file(CONFIGURE OUTPUT ${source} CONTENT "int main() {}\n")

@@ -70,10 +70,7 @@ void addDesktop(CLI::App& app) {
         .add_option("--scale", options->scale,
                     message("Píxeles por punto, si no valen los de la pantalla"))
         ->type_name("FLOAT")
-        ->check([](const std::string& text) -> std::string {
-            double number = 0;
-            return CLI::detail::lexical_cast(text, number) ? "" : "no number";
-        });
+        ->check(CLI::Validator(CLI::Number).description(""));
     command.add_option("--extension", options->extension, message("El programa de la extensión"))
         ->type_name("FILE");
     command.add_flag("--require-sandbox", options->requireSandbox,

@@ -146,6 +146,15 @@ TEST(Reloading, PutsTogetherWhatABurstOfPressesAsksFor) {
     EXPECT_LE(card.viewer.shown, 1 + 4 * spans);
 }
 
+TEST(Reloading, GivesTheHostApplicationAMomentToAnswerAPress) {
+    OneCard card(room);
+    const auto before = card.viewer.shown;
+    const auto start = std::chrono::steady_clock::now();
+    card.viewer.display->press({.identifier = "AlternarEncendido"});
+    ASSERT_TRUE(soon([&] { return card.viewer.shown > before; }));
+    EXPECT_GE(std::chrono::steady_clock::now() - start, 10ms);
+}
+
 TEST(Reloading, OutlivesTheBusAndFindsItAgain) {
     OneCard card(room);
     card.stage.bus().end();
